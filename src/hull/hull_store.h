@@ -104,6 +104,9 @@ struct HullStore {
   TableRef edgeXRef() const { return edgeX.ref(); }
   TableRef edgeYRef() const { return edgeY.ref(); }
   TableRef edgeZRef() const { return edgeZ.ref(); }
+
+  // Field by field, so that a test can tell that an event left the store alone.
+  bool operator==(const HullStore&) const = default;
 };
 
 // RGB(r, g, b) as the 32-bit colour integer, red in the low byte.
