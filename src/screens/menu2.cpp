@@ -1,0 +1,79 @@
+#include "screens/menu2.h"
+
+#include "hull/default_hull.h"
+
+namespace tolmar::screens {
+
+namespace {
+
+using board::Do;
+using board::onScreen;
+using board::ScreenId;
+
+constexpr double kWidth = 5000;
+constexpr double kHeight = 6500;
+constexpr const char* kVersionDate = " 2 Dec 2007 ";
+
+// Centred across the window, below `above` by `gap`.
+board::Rect below(const board::Rect& above, double gap, double width, double height) {
+  return {(kWidth - width) / 2, above.bottom() + gap, width, height};
+}
+
+}  // namespace
+
+Menu2Layout menu2Layout(double screenWidth, double screenHeight) {
+  Menu2Layout l;
+  l.window = {(screenWidth - kWidth) / 2, (screenHeight - kHeight) / 2, kWidth, kHeight};
+  const double labelWidth = 0.9 * kWidth;
+  l.label1 = {(kWidth - labelWidth) / 2, 100, labelWidth, 400};
+  l.label2 = below(l.label1, 200, labelWidth, 950);
+  l.label3 = below(l.label2, 200, labelWidth, 1500);
+  l.create = below(l.label3, 200, kWidth / 2, kMenu2ButtonHeight);
+  l.terminate = below(l.create, 100, kWidth / 2, kMenu2ButtonHeight);
+  l.langue1[0] = {l.create.left, l.terminate.bottom() + 200, 1500, kMenu2OptionHeight};
+  l.langue1[1] = {l.create.left, l.langue1[0].bottom() + 100, 1500, kMenu2OptionHeight};
+  return l;
+}
+
+board::Actions loadMenu2(Menu2& m, HullStore& h, double screenWidth, double screenHeight) {
+  m.layout = menu2Layout(screenWidth, screenHeight);
+  m.title = std::string("  Version : ") + kVersionDate;
+  langueClick(m, h, 1);
+  initDefaultHull(h);
+  return {onScreen(Do::Show, ScreenId::menu2), onScreen(Do::Load, ScreenId::dessin),
+          onScreen(Do::Load, ScreenId::bouchain1), onScreen(Do::Load, ScreenId::bouchain2)};
+}
+
+void langueClick(Menu2& m, HullStore& h, int i) {
+  if (i != 0 && i != 1) return;
+  m.selected = i;
+  h.langue = static_cast<i16>(i);
+  m.label1 = "Tolmar2008";
+  m.label3FontSize = 7.8;
+  m.title = std::string(" Tolmar2008") + "  - version " + kVersionDate;
+  if (i == 0) {
+    m.create = "Créer une tolmar";
+    m.terminate = "Quitter";
+    m.label3 =
+        "L'auteur ne prend aucune responsabilité quand aux conséquences résultant de l'utilisation "
+        "de ce logiciel.";
+  } else {
+    m.create = "Create a hull";
+    m.terminate = "Quit";
+    m.label3 = "The author takes no responsibility for the consequences resulting from the use of this software.";
+  }
+}
+
+board::Actions createClick(board::BoardState& b, const HullStore& h) {
+  board::boardOnCreate(b, h);
+  return {onScreen(Do::Hide, ScreenId::menu2), onScreen(Do::Show, ScreenId::dessin),
+          onScreen(Do::ShowModal, ScreenId::bouchain1)};
+}
+
+board::Actions terminateClick() {
+  return {onScreen(Do::Hide, ScreenId::menu2), onScreen(Do::EndProgram, ScreenId::menu2)};
+}
+
+board::Actions closeMenu2() { return {onScreen(Do::EndProgram, ScreenId::menu2)}; }
+
+}  // namespace tolmar::screens

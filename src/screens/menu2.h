@@ -1,0 +1,54 @@
+// The start screen `menu2` as logic: its controls and captions in both
+// languages, its layout in twips, the language switch, and what Create and
+// Terminate make the windows do.
+#pragma once
+
+#include <string>
+
+#include "board/board_action.h"
+#include "board/board_layout.h"
+#include "board/board_model.h"
+#include "hull/hull_store.h"
+
+namespace tolmar::screens {
+
+struct Menu2Layout {
+  board::Rect window, label1, label2, label3, create, terminate;
+  board::Rect langue1[2];
+};
+
+struct Menu2 {
+  std::string title;
+  std::string label1, label2, label3;  // product, empty, disclaimer
+  double label3FontSize = 0;           // points
+  std::string create, terminate;
+  std::string langue1[2] = {"Français", "English"};
+  int selected = -1;  // the Langue1 option chosen, -1 before the load
+  Menu2Layout layout;
+};
+
+// Heights the layout keeps as the controls have them (twips).
+inline constexpr double kMenu2ButtonHeight = 400;
+inline constexpr double kMenu2OptionHeight = 300;
+
+// The window (5000 x 6500, centred on a screen of the given size) and its
+// controls laid out from the top.
+Menu2Layout menu2Layout(double screenWidth, double screenHeight);
+
+// Start of the program: layout, English chosen, the default hull in the
+// store; then show menu2 and load the other screens.
+board::Actions loadMenu2(Menu2& m, HullStore& h, double screenWidth, double screenHeight);
+
+// Click on Langue1(i), i = 0 French or 1 English: langue and the texts of
+// menu2, nothing else.  Another i is ignored.
+void langueClick(Menu2& m, HullStore& h, int i);
+
+// Create: the board's title and enabling, then hide menu2, show the board
+// and bouchain1 modal over it.  The hull in the store stays as it is.
+board::Actions createClick(board::BoardState& b, const HullStore& h);
+
+// Terminate, and the closing of menu2: the end, nothing saved or asked.
+board::Actions terminateClick();
+board::Actions closeMenu2();
+
+}  // namespace tolmar::screens
