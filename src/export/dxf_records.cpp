@@ -2,23 +2,18 @@
 
 #include <array>
 #include <cmath>
-#include <cstdio>
 
 #include "export/utf8.h"
+#include "text/number_format.h"
 
 namespace tolmar {
 
 std::string dxfNumber(double x) {
   if (!std::isfinite(x) || x == 0) x = 0;  // also turns -0.0 into +0.0
-  char buf[48];
-  // %.4f never writes a thousands separator nor, in the "C" locale the
-  // program keeps for numbers, a decimal comma.
-  const int n = std::snprintf(buf, sizeof buf, "%s%.4f ", x >= 0 ? " " : "", x);
-  if (n < 0 || n >= static_cast<int>(sizeof buf)) return " 0.0000 ";
-  std::string s(buf, static_cast<std::size_t>(n));
+  std::string s = formatNumber(x, "0.0000 ");
   for (char& c : s)
     if (c == ',') c = '.';
-  return s;
+  return x >= 0 ? " " + s : s;
 }
 
 void dxfHeader(TextSink& out, std::string_view comment) {

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "dxf_text_reader.h"
+#include "export/dxf_records.h"
 #include "golden_file.h"
 
 namespace tolmar {
@@ -21,7 +22,13 @@ std::string text(std::string_view s, float size = 16, double x = 0, double y = 0
 TEST(StrokeFont, WholeFontAtSixteenUnitsGivesTheGridPoints) {
   // Size 16 puts every vertex on the font's own grid, one unit apart, and
   // each character 16 units right of the one before.
-  test::expectGolden("stroke_font.dxf", text("0123456789 abcdefghijklmnopqrstuvwxyz-.", 16));
+  StringSink out;
+  dxfHeader(out, "stroke font");
+  dxfSection(out);
+  dxfText(out, "0123456789 abcdefghijklmnopqrstuvwxyz-.", 16, 0, 0, 0, 3, 7);
+  dxfEndSec(out);
+  dxfEof(out);
+  test::expectGolden("stroke_font.dxf", out.text());
 }
 
 TEST(StrokeFont, CapitalsDrawAsLowerCase) {
