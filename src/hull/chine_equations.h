@@ -17,8 +17,9 @@ struct ChinePoint {
 
 // Y and Z of line `line` (>= 1) at x, carried upward from line 1 in one loop.
 // A plank parallel to the plane of the next line (1 - k C = 0) has no
-// meeting point; the point then stays on the line below, so that the result
-// is always finite.  chineDegenerate() tells the screens about such a line.
+// meeting point, and one nearly parallel may meet it beyond the range of
+// doubles; the point then stays on the line below, so that the result is
+// always finite.  chineDegenerate() tells the screens about the first case.
 ChinePoint chinePoint(const HullStore& h, int line, double x);
 double chineY(const HullStore& h, int line, double x);
 double chineZ(const HullStore& h, int line, double x);
