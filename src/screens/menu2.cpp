@@ -21,6 +21,17 @@ board::Rect below(const board::Rect& above, double gap, double width, double hei
 
 }  // namespace
 
+Menu2::Menu2() {
+  Langue1(0).caption = "Français";
+  Langue1(1).caption = "English";
+}
+
+int Menu2::selected() const {
+  for (int i = 0; i <= 1; ++i)
+    if (Langue1(i).value) return i;
+  return -1;
+}
+
 Menu2Layout menu2Layout(double screenWidth, double screenHeight) {
   Menu2Layout l;
   l.window = {(screenWidth - kWidth) / 2, (screenHeight - kHeight) / 2, kWidth, kHeight};
@@ -37,7 +48,7 @@ Menu2Layout menu2Layout(double screenWidth, double screenHeight) {
 
 board::Actions loadMenu2(Menu2& m, HullStore& h, double screenWidth, double screenHeight) {
   m.layout = menu2Layout(screenWidth, screenHeight);
-  m.title = std::string("  Version : ") + kVersionDate;
+  m.title.caption = std::string("  Version : ") + kVersionDate;
   langueClick(m, h, 1);
   initDefaultHull(h);
   return {onScreen(Do::Show, ScreenId::menu2), onScreen(Do::Load, ScreenId::dessin),
@@ -46,21 +57,22 @@ board::Actions loadMenu2(Menu2& m, HullStore& h, double screenWidth, double scre
 
 void langueClick(Menu2& m, HullStore& h, int i) {
   if (i != 0 && i != 1) return;
-  m.selected = i;
+  m.Langue1(i).value = true;
+  m.Langue1(1 - i).value = false;
   h.langue = static_cast<i16>(i);
-  m.label1 = "Tolmar2008";
+  m.Label1.caption = "Tolmar2008";
   m.label3FontSize = 7.8;
-  m.title = std::string(" Tolmar2008") + "  - version " + kVersionDate;
+  m.title.caption = std::string(" Tolmar2008") + "  - version " + kVersionDate;
   if (i == 0) {
-    m.create = "Créer une tolmar";
-    m.terminate = "Quitter";
-    m.label3 =
+    m.Create.caption = "Créer une tolmar";
+    m.Terminate.caption = "Quitter";
+    m.Label3.caption =
         "L'auteur ne prend aucune responsabilité quand aux conséquences résultant de l'utilisation "
         "de ce logiciel.";
   } else {
-    m.create = "Create a hull";
-    m.terminate = "Quit";
-    m.label3 = "The author takes no responsibility for the consequences resulting from the use of this software.";
+    m.Create.caption = "Create a hull";
+    m.Terminate.caption = "Quit";
+    m.Label3.caption = "The author takes no responsibility for the consequences resulting from the use of this software.";
   }
 }
 

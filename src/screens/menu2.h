@@ -9,6 +9,7 @@
 #include "board/board_layout.h"
 #include "board/board_model.h"
 #include "hull/hull_store.h"
+#include "screens/control.h"
 
 namespace tolmar::screens {
 
@@ -17,14 +18,17 @@ struct Menu2Layout {
   board::Rect langue1[2];
 };
 
+// Captions in `caption`; the chosen language option has `value` set.
 struct Menu2 {
-  std::string title;
-  std::string label1, label2, label3;  // product, empty, disclaimer
-  double label3FontSize = 0;           // points
-  std::string create, terminate;
-  std::string langue1[2] = {"Français", "English"};
-  int selected = -1;  // the Langue1 option chosen, -1 before the load
+  Field title;
+  Field Label1, Label2, Label3;  // product, empty, disclaimer
+  double label3FontSize = 0;     // points
+  Field Create, Terminate;
+  ControlArray<0, 1> Langue1;
   Menu2Layout layout;
+
+  Menu2();
+  int selected() const;  // the Langue1 option chosen, -1 before the load
 };
 
 // Heights the layout keeps as the controls have them (twips).

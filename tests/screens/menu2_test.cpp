@@ -17,13 +17,13 @@ TEST(Menu2, StartComesUpInEnglishWithTheDefaultHull) {
   Menu2 m;
   HullStore h;
   const Actions a = loadMenu2(m, h, 28800, 16200);
-  EXPECT_EQ(m.selected, 1);
+  EXPECT_EQ(m.selected(), 1);
   EXPECT_EQ(h.langue, 1);
   EXPECT_EQ(h.hullName, "TOLMAR2005");
   EXPECT_EQ(h.nChines, 5);
-  EXPECT_EQ(m.title, " Tolmar2008  - version  2 Dec 2007 ");
-  EXPECT_EQ(m.label1, "Tolmar2008");
-  EXPECT_EQ(m.label2, "");
+  EXPECT_EQ(m.title.caption, " Tolmar2008  - version  2 Dec 2007 ");
+  EXPECT_EQ(m.Label1.caption, "Tolmar2008");
+  EXPECT_EQ(m.Label2.caption, "");
   EXPECT_EQ(m.label3FontSize, 7.8);
   EXPECT_EQ(a, (Actions{onScreen(Do::Show, ScreenId::menu2), onScreen(Do::Load, ScreenId::dessin),
                         onScreen(Do::Load, ScreenId::bouchain1), onScreen(Do::Load, ScreenId::bouchain2)}));
@@ -63,12 +63,12 @@ TEST(Menu2, CaptionsInBothLanguages) {
     Menu2 m;
     HullStore h;
     langueClick(m, h, c.langue);
-    EXPECT_EQ(m.create, c.create);
-    EXPECT_EQ(m.terminate, c.terminate);
-    EXPECT_EQ(m.label3, c.label3);
-    EXPECT_EQ(m.title, " Tolmar2008  - version  2 Dec 2007 ");
-    EXPECT_EQ(m.langue1[0], "Français");
-    EXPECT_EQ(m.langue1[1], "English");
+    EXPECT_EQ(m.Create.caption, c.create);
+    EXPECT_EQ(m.Terminate.caption, c.terminate);
+    EXPECT_EQ(m.Label3.caption, c.label3);
+    EXPECT_EQ(m.title.caption, " Tolmar2008  - version  2 Dec 2007 ");
+    EXPECT_EQ(m.Langue1(0).caption, "Français");
+    EXPECT_EQ(m.Langue1(1).caption, "English");
   }
 }
 
@@ -81,6 +81,8 @@ TEST(Menu2, LanguageSwitchTouchesNothingButLangue) {
   const HullStore before = h;
   langueClick(m, h, 0);
   EXPECT_EQ(h.langue, 0);
+  EXPECT_TRUE(m.Langue1(0).value);
+  EXPECT_FALSE(m.Langue1(1).value);
   HullStore back = h;
   back.langue = 1;
   EXPECT_TRUE(back == before);
@@ -88,7 +90,7 @@ TEST(Menu2, LanguageSwitchTouchesNothingButLangue) {
   EXPECT_TRUE(h == before);
   langueClick(m, h, 7);
   EXPECT_TRUE(h == before);
-  EXPECT_EQ(m.selected, 1);
+  EXPECT_EQ(m.selected(), 1);
 }
 
 TEST(Menu2, CreateTwiceKeepsTheHullAndTheFixedTitle) {

@@ -1,0 +1,26 @@
+// The command line shared by `new` and `dump`: one file, --set (repeated),
+// and for dump --auto.
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "command.h"
+#include "pipeline.h"
+
+namespace tolmar::cli {
+
+struct SessionArgs {
+  std::filesystem::path file;
+  std::vector<SetValue> sets;
+  bool autoPlanking = false;
+};
+
+// Prints what is wrong on stderr and returns false for a bad command line.
+// "--set X" and "--set=X" are both taken.
+bool parseSessionArgs(const Args& args, bool allowAuto, SessionArgs& out);
+
+// Every replaced field, one line each, on stderr.
+void printWarnings(const PipelineResult& r);
+
+}  // namespace tolmar::cli
