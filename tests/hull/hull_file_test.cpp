@@ -11,6 +11,8 @@
 
 #include "hull/default_hull.h"
 
+#include <unistd.h>
+
 namespace tolmar {
 namespace {
 
@@ -32,6 +34,14 @@ std::string written(const HullStore& h) {
 FileResult readText(const std::string& text, HullStore& h, bool noShapeFwd = false) {
   std::istringstream in(text);
   return readHullFile(in, noShapeFwd, h);
+}
+
+// A folder of its own for each process: other builds may run these tests at once.
+fs::path tempDir(const char* name) {
+  const fs::path dir = fs::temp_directory_path() / (std::string(name) + "_" + std::to_string(getpid()));
+  fs::remove_all(dir);
+  fs::create_directories(dir);
+  return dir;
 }
 
 fs::path data(const char* name) { return fs::path(TOLMAR_TEST_DATA) / "hull" / name; }
@@ -136,9 +146,7 @@ TEST(HullFileRoundTrip, FileToStoreToFileIsByteForByte) {
 TEST(HullFileRoundTrip, SaveAndOpenRebuildTheSameLines) {
   auto a = newStore();
   initDefaultHull(*a);
-  const fs::path dir = fs::path(::testing::TempDir()) / "hull_file_open";
-  fs::remove_all(dir);
-  fs::create_directories(dir);
+  const fs::path dir = tempDir("hull_file_open");
   ASSERT_TRUE(saveHullFile(dir / "Dory.v2.D50", *a).ok);
   EXPECT_EQ(a->dataTag, "&NNNNNRRRC05");
   EXPECT_EQ(slurp(dir / "Dory.v2.D50"), written(*a));
@@ -233,9 +241,7 @@ TEST(HullFileOldLayouts, D51IsToldByTheLastTwoCharactersOfThePath) {
   EXPECT_FALSE(isOldLayoutPath("1"));
 
   // Through the open action: the copy named .d51 has no shapeFwd line.
-  const fs::path dir = fs::path(::testing::TempDir()) / "hull_file_d51";
-  fs::remove_all(dir);
-  fs::create_directories(dir);
+  const fs::path dir = tempDir("hull_file_d51");
   fs::copy_file(data("old_oldest.D51"), dir / "oldest.d51");
   auto h = newStore();
   ASSERT_TRUE(openHullFile(dir / "oldest.d51", *h).ok);
@@ -381,8 +387,7 @@ TEST(HullFileOpen, SystemErrorsComeBackAsText) {
 }
 
 TEST(HullFileSave, AFailedSaveLeavesTheFolderAsItWas) {
-  const fs::path dir = fs::path(::testing::TempDir()) / "hull_file_save";
-  fs::remove_all(dir);
+  const fs::path dir = tempDir("hull_file_save");
   fs::create_directories(dir / "Taken.D50");
   auto h = newStore();
   initDefaultHull(*h);
