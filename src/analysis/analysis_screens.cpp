@@ -1,6 +1,6 @@
 #include "analysis/analysis_screens.h"
 
-#include "analysis/waterline_drawing.h"
+#include "board/water_line.h"
 #include "text/number_format.h"
 
 namespace tolmar::analysis {
@@ -41,7 +41,7 @@ void AnalysisScreens::quit(DrawingSurface& plan) {
   hydro.visible = false;
   active_ = ActiveScreen::other;  // hidden, not left for another screen
   if (showBoard) showBoard();
-  drawWaterline(h_, plan);
+  drawWaterline(plan, h_);
 }
 
 void AnalysisScreens::closeHydro() {
