@@ -23,25 +23,29 @@ double relativeDistance(double num, double len) { return len == 0 ? 0 : std::abs
 Branch branchAt(const HullStore& h, double x) {
   const double xM = h.xMax(1);
   if (x < xM) {
-    return {relativeDistance(xM - x, xM - h.xAft(0)), h.powerAft, h.shapeAft, h.yAft(1),
-            h.zAft(1)};
+    return {relativeDistance(xM - x, xM - h.xAft(0)), h.powerAft, h.shapeAft, h.yAft(1), h.zAft(1)};
   }
   return {relativeDistance(x - xM, h.xFwd(0) - xM), h.powerFwd, h.shapeFwd, h.yFwd(1), h.zFwd(1)};
 }
 
 }  // namespace
 
+// The first screen holds both exponents in 2.1..5; a hull file read before
+// it may bring an exponent of 0 or below, whose power at the maximum beam
+// (t = 0) is infinite.  The maximum beam's control point stands in then.
 double firstChineY(const HullStore& h, double x) {
   const Branch b = branchAt(h, x);
   const double yM = h.yMax(1);
-  if (b.t <= 1) return yM - std::pow(b.t, b.p) * (yM - b.yE);
-  return b.yE - (yM - b.yE) * b.p * (b.t - 1);
+  const double y =
+      b.t <= 1 ? yM - std::pow(b.t, b.p) * (yM - b.yE) : b.yE - (yM - b.yE) * b.p * (b.t - 1);
+  return std::isfinite(y) ? y : yM;
 }
 
 double firstChineZ(const HullStore& h, double x) {
   const Branch b = branchAt(h, x);
-  if (b.t <= 1) return b.zE * (std::pow(b.t, b.p) * (b.s + 1) - std::pow(b.t, b.p + 1) * b.s);
-  return b.zE * (((b.s + 1) * b.p - (b.p + 1) * b.s) * (b.t - 1) + 1);
+  const double z = b.t <= 1 ? b.zE * (std::pow(b.t, b.p) * (b.s + 1) - std::pow(b.t, b.p + 1) * b.s)
+                            : b.zE * (((b.s + 1) * b.p - (b.p + 1) * b.s) * (b.t - 1) + 1);
+  return std::isfinite(z) ? z : 0;
 }
 
 // Each line is where the plank from the line below, rising at its angle in

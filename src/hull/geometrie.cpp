@@ -78,8 +78,7 @@ void triangleAngles(double a, double b, double c, double& A, double& B, double& 
   }
 }
 
-void rotatePoint(double px, double py, double cx, double cy, double angle, double& qx,
-                 double& qy) {
+void rotatePoint(double px, double py, double cx, double cy, double angle, double& qx, double& qy) {
   const double dx = px - cx;
   const double dy = py - cy;
   const double r = std::sqrt(dx * dx + dy * dy);

@@ -71,9 +71,8 @@ void buildAllStations(HullStore& h) {
 void scaleViews(HullStore& h, double W, double H, int stepIndex) {
   // The point of maximum beam; an unvalidated store (xFwd(1) = 0) gives 0.
   const double ratio = h.xMax(1) * 80 / h.xFwd(1) + 0.5;
-  const int m = std::isfinite(ratio)
-                    ? static_cast<int>(std::floor(std::clamp(ratio, -1.0, 81.0))) + 1
-                    : 0;
+  const int m =
+      std::isfinite(ratio) ? static_cast<int>(std::floor(std::clamp(ratio, -1.0, 81.0))) + 1 : 0;
   const double xFwd1 = h.xFwd(1);
 
   float L = planLength(h, 1);
@@ -108,8 +107,8 @@ void scaleViews(HullStore& h, double W, double H, int stepIndex) {
   h.originX = finiteOr(static_cast<float>(150 - h.scaleX * xMin), 150);
   h.originY =
       finiteOr(static_cast<float>((hh / 2 - yMax * 1.1 * h.scaleY) / 2 + hh / 2), hh * 0.75f);
-  h.originZ = finiteOr(
-      static_cast<float>(hh / 2 - 100 - (keelDepth + zMax * 0.05) * h.scaleY), hh / 2 - 100);
+  h.originZ = finiteOr(static_cast<float>(hh / 2 - 100 - (keelDepth + zMax * 0.05) * h.scaleY),
+                       hh / 2 - 100);
   h.bodyAxis = finiteOr(static_cast<float>(yMax * 1.12 + L * 1.05), 0);
 }
 

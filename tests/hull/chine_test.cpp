@@ -24,8 +24,8 @@ TEST(FirstChine, DefaultHullValues) {
   const XYZ cases[] = {
       {1, 0.843304, 0.085357},
       {5, 0.605257, 0.036289},
-      {-0.5, 0.6125, 0.1775},    // aft of the control point, straight on
-      {6.3, -0.2375, 0.125},     // past the stem the chine crosses the centre plane
+      {-0.5, 0.6125, 0.1775},  // aft of the control point, straight on
+      {6.3, -0.2375, 0.125},   // past the stem the chine crosses the centre plane
   };
   for (const auto& c : cases) {
     EXPECT_NEAR(firstChineY(h, c.x), c.y, 5e-7) << c.x;
@@ -228,6 +228,21 @@ TEST(ChineLines, NearlyParallelAndFlatPlanksStayFinite) {
     for (int n = 1; n <= h.nChines; ++n) {
       const ChinePoint p = chinePoint(h, n, x);
       EXPECT_TRUE(std::isfinite(p.y) && std::isfinite(p.z)) << n << " " << x;
+    }
+  }
+}
+
+TEST(FirstChine, ExponentsOutsideTheScreensRangeStayFinite) {
+  HullStore h = validatedDefaultHull();
+  for (double p : {0.0, -1.0, -3.5}) {
+    h.powerAft = h.powerFwd = p;
+    for (double x : {-0.5, 1.0, 3.0, 4.0, 6.0, 7.0}) {
+      EXPECT_TRUE(std::isfinite(firstChineY(h, x))) << p << " " << x;
+      EXPECT_TRUE(std::isfinite(firstChineZ(h, x))) << p << " " << x;
+    }
+    if (p < 0) {  // infinite power at the maximum beam
+      EXPECT_EQ(firstChineY(h, 3), h.yMax(1));
+      EXPECT_EQ(firstChineZ(h, 3), 0);
     }
   }
 }

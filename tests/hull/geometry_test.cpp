@@ -33,15 +33,15 @@ struct PolarCase {
 
 TEST(PolarAngle, Quadrants) {
   const PolarCase cases[] = {
-      {0, 0, 0, 0, 0},                                   // equal points
-      {1, 1, 1, 3, 1.570796326795},                      // straight up
-      {1, 1, 1, -3, 4.712388980385},                     // straight down, never negative
-      {0, 0, 2, 0, 0},                                   // along +X
-      {0, 0, 1, 1, std::atan(1.0)},                      // first quadrant
-      {0, 0, -1, 0, 3.14159265359},                      // along -X
-      {0, 0, -1, 1, std::atan(-1.0) + 3.14159265359},    // second
-      {0, 0, -1, -1, std::atan(1.0) + 3.14159265359},    // third
-      {0, 0, 1, -1, std::atan(-1.0) + 6.28318530718},    // fourth
+      {0, 0, 0, 0, 0},                                 // equal points
+      {1, 1, 1, 3, 1.570796326795},                    // straight up
+      {1, 1, 1, -3, 4.712388980385},                   // straight down, never negative
+      {0, 0, 2, 0, 0},                                 // along +X
+      {0, 0, 1, 1, std::atan(1.0)},                    // first quadrant
+      {0, 0, -1, 0, 3.14159265359},                    // along -X
+      {0, 0, -1, 1, std::atan(-1.0) + 3.14159265359},  // second
+      {0, 0, -1, -1, std::atan(1.0) + 3.14159265359},  // third
+      {0, 0, 1, -1, std::atan(-1.0) + 6.28318530718},  // fourth
   };
   for (const auto& c : cases) {
     const double a = polarAngle(c.x1, c.y1, c.x2, c.y2);

@@ -23,9 +23,9 @@ constexpr double kRad = 57.2957795130823;
 TEST(CrossingX, LineAndDegenerateCases) {
   EXPECT_DOUBLE_EQ(crossingX(0, 1, 2, 3, -2), 2);
   EXPECT_DOUBLE_EQ(crossingX(1, 0, 0, 2, 4), 0.5);
-  EXPECT_EQ(crossingX(0, 4, 1, 4, -1), 4);   // vertical
-  EXPECT_EQ(crossingX(0, 1, 3, 5, 3), 3);    // level: the mean of the two X
-  EXPECT_EQ(crossingX(0, 2, 0, 2, 0), 2);    // one point
+  EXPECT_EQ(crossingX(0, 4, 1, 4, -1), 4);              // vertical
+  EXPECT_EQ(crossingX(0, 1, 3, 5, 3), 3);               // level: the mean of the two X
+  EXPECT_EQ(crossingX(0, 2, 0, 2, 0), 2);               // one point
   EXPECT_EQ(crossingX(5, 0, 0, 1e300, 1e-300), 5e299);  // slope underflows: the mean
 }
 
@@ -87,7 +87,7 @@ TEST(DefaultHull, NewHullClearsTheFirstLinesAndTables) {
 TEST(BottomLines, DefaultHullEndsAndSampling) {
   const HullStore h = validatedDefaultHull();
   EXPECT_EQ(h.iMaxBeam, 41);
-  EXPECT_EQ(h.xFwd(1), 6);  // the stem reaches the chine on the centre plane
+  EXPECT_EQ(h.xFwd(1), 6);                  // the stem reaches the chine on the centre plane
   EXPECT_NEAR(h.xAft(1), -0.071208, 5e-7);  // raked transom: aft of X = 0
   EXPECT_EQ(h.lineX(0, 0), h.lineX(0, 1));
   EXPECT_EQ(h.lineX(0, 81), h.lineX(0, 82));
@@ -206,8 +206,9 @@ TEST(LineEnds, PramBowLeansFromTheLineBelow) {
     const double lean = tanDeg(h.bowTurn(n - 1) * h.bowAngle);
     EXPECT_GE(h.xFwd(n), h.xFwd(0)) << n;
     EXPECT_GT(chineY(h, n, h.xFwd(n)), 0) << n;
-    EXPECT_NEAR(h.xFwd(n) - h.xFwd(n - 1),
-                lean * (chineZ(h, n, h.xFwd(n)) - h.lineZ(n - 1, 82)), 1e-3) << n;
+    EXPECT_NEAR(h.xFwd(n) - h.xFwd(n - 1), lean * (chineZ(h, n, h.xFwd(n)) - h.lineZ(n - 1, 82)),
+                1e-3)
+        << n;
   }
 }
 

@@ -1,10 +1,11 @@
 // Station sections and the board's view transform.
+#include "hull/stations.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 #include "hull/chine_equations.h"
-#include "hull/stations.h"
 #include "hull_fixtures.h"
 
 namespace tolmar {
@@ -132,8 +133,8 @@ TEST(ScaleViews, EmptyStoreAndTinyPictureStayFinite) {
   HullStore tiny = plankedDefaultHull();
   scaleViews(tiny, 100, 100, 1);
   for (const HullStore* h : {&empty, &tiny}) {
-    for (float v : {h->scaleX, h->scaleY, h->scaleZ, h->originX, h->originY, h->originZ,
-                    h->bodyAxis}) {
+    for (float v :
+         {h->scaleX, h->scaleY, h->scaleZ, h->originX, h->originY, h->originZ, h->bodyAxis}) {
       EXPECT_TRUE(std::isfinite(v));
     }
     EXPECT_GT(h->scaleX, 0);
