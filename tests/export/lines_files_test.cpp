@@ -157,3 +157,17 @@ TEST(LinesFiles, VrmlNameFollowsButTheBoardFieldDoesNot) {
 
 }  // namespace
 }  // namespace tolmar
+
+namespace tolmar {
+namespace {
+
+TEST(ExportFixtures, DefaultHullsValidate) {
+  bool ok = false;
+  test::defaultHull(1, false, &ok);
+  EXPECT_TRUE(ok);
+  test::defaultHull(1, true, &ok);
+  EXPECT_TRUE(ok);
+}
+
+}  // namespace
+}  // namespace tolmar
