@@ -1,4 +1,5 @@
-// The test hulls match the documented values of a validated default hull.
+// The test hulls are what they claim: the documented values of a validated
+// default hull, a pram bow, 21 lines.
 #include <gtest/gtest.h>
 
 #include "hull_fixture.h"
@@ -21,6 +22,7 @@ TEST(Fixture, PramBowAndManyLines) {
   EXPECT_GT(p->lineY(1, 82), 0.2);
   auto m = fixture::manyLineHull();
   EXPECT_EQ(m->nChines, 21);
+  EXPECT_EQ(m->plankAngle(20), 102);
   EXPECT_NEAR(m->zAft(21), 1.1, 1e-12);
   EXPECT_NEAR(m->zFwd(21), 1.25, 1e-12);
 }
