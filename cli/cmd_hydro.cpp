@@ -83,7 +83,8 @@ bool typeIntoMass(Mass1& m, const SetValue& v) {
                                           : v.control == "Text3" ? &m.Text3
                                           : v.control == "Text4" ? &m.Text4
                                                                  : nullptr;
-  if (!column || !v.hasValue || v.index < 0 || v.index > kLastMassRow || !(*column)(v.index).visible)
+  if (!column || !v.hasValue || v.index < 0 || v.index > kLastMassRow ||
+      !(*column)(v.index).visible)
     return false;
   (*column)(v.index).text = v.value;
   return true;
@@ -132,7 +133,8 @@ int run(const Args& args) {
     massActivated(mass, *h);
     for (const SetValue& v : a.massSets) {
       if (!typeIntoMass(mass, v)) {
-        std::fprintf(stderr, "tolmar-cli hydro: --set %s: mass1 has no such field\n", v.arg.c_str());
+        std::fprintf(stderr, "tolmar-cli hydro: --set %s: mass1 has no such field\n",
+                     v.arg.c_str());
         return 2;
       }
     }
@@ -157,7 +159,8 @@ int run(const Args& args) {
                  {"Text1(0)", fieldJson(hydro.Text1(0))},
                  {"Text1(1)", fieldJson(hydro.Text1(1))},
                  {"Text3(0)", fieldJson(hydro.Text3(0))},
-                 {"Label2(0)", {{"caption", hydro.Label2(0).caption}, {"backColor", hydro.Label2(0).backColor}}},
+                 {"Label2(0)",
+                  {{"caption", hydro.Label2(0).caption}, {"backColor", hydro.Label2(0).backColor}}},
                  {"Label2(1)", {{"caption", hydro.Label2(1).caption}}}};
   j["pitch"] = h->pitch;
   j["dispTarget"] = h->dispTarget;
@@ -181,18 +184,20 @@ int run(const Args& args) {
   return 0;
 }
 
-Register reg({"hydro", "HULL.D50 (--disp M3 | --zwl Z) [--pitch DEG] [--mass] [--set mass1.CONTROL=VALUE]...",
-              "  Prepares the hull as `dump` does, then runs the hydrostatics screen once:\n"
-              "  --disp floats it at a displacement in m3 (the solver, starting from a\n"
-              "  waterline at a hundredth of the length), --zwl integrates at a waterline\n"
-              "  height in m; --pitch gives the pitch in degrees (default 0).  --mass runs\n"
-              "  the mass budget first, with any --set mass1.Text1(r)=VALUE typed into its\n"
-              "  fields: its centre of mass steers the pitch, and without --disp or --zwl\n"
-              "  its total mass / 1000 is the displacement.  Other --set values go to the\n"
-              "  hull screens.  Prints hydro1's fields as shown, pitch (rad), dispTarget,\n"
-              "  xDisp, yDisp, zDisp, totalMass, xMass, immersedChine, the comments, wlX,\n"
-              "  wlY, wlZ, sectArea (points 0..82) and with --mass every row of mass1.",
-              &run});
+Register reg(
+    {"hydro",
+     "HULL.D50 (--disp M3 | --zwl Z) [--pitch DEG] [--mass] [--set mass1.CONTROL=VALUE]...",
+     "  Prepares the hull as `dump` does, then runs the hydrostatics screen once:\n"
+     "  --disp floats it at a displacement in m3 (the solver, starting from a\n"
+     "  waterline at a hundredth of the length), --zwl integrates at a waterline\n"
+     "  height in m; --pitch gives the pitch in degrees (default 0).  --mass runs\n"
+     "  the mass budget first, with any --set mass1.Text1(r)=VALUE typed into its\n"
+     "  fields: its centre of mass steers the pitch, and without --disp or --zwl\n"
+     "  its total mass / 1000 is the displacement.  Other --set values go to the\n"
+     "  hull screens.  Prints hydro1's fields as shown, pitch (rad), dispTarget,\n"
+     "  xDisp, yDisp, zDisp, totalMass, xMass, immersedChine, the comments, wlX,\n"
+     "  wlY, wlZ, sectArea (points 0..82) and with --mass every row of mass1.",
+     &run});
 
 }  // namespace
 }  // namespace tolmar::cli

@@ -73,15 +73,15 @@ void hydroComments(Hydro1& s, const HullStore& h, const HydroOutcome& o) {
   } else if (n == 0) {
     s.Label2(0).backColor = kPaleCyan;
     s.Label2(0).caption = pick(h, "La quille est dans l'eau, le bouchain 1 est émergé",
-                            "The keel is in water, chine 1 is emerged");
+                               "The keel is in water, chine 1 is emerged");
   } else if (n < h.nChines) {
     s.Label2(0).backColor = kPaleCyan;
     s.Label2(0).caption = h.langue == 1 ? "Chine " + std::to_string(n) + "  is immersed"
-                                     : "Le bouchain " + std::to_string(n) + " est immergé";
+                                        : "Le bouchain " + std::to_string(n) + " est immergé";
   } else {
     s.Label2(0).backColor = kDeckWarning;
     s.Label2(0).caption = pick(h, "ATTENTION : le pont est immergé, le bateau coule !",
-                            "WARNING : the deck is immersed, the boat is sinking !");
+                               "WARNING : the deck is immersed, the boat is sinking !");
   }
   if (n >= 0 && n <= h.nChines) {
     s.Label2(1).caption =

@@ -29,8 +29,8 @@ struct Hydro1 {
   ControlArray<0, 0> Label3;   // caption of Text3(0)
   ControlArray<0, 1> Option1;  // mode 0, mode 1
   Field Calcul1, cdQuit;
-  ControlArray<0, 1> Label2;   // comment; waterplane area and centre
-  ControlArray<0, 2> Label1;   // instructions
+  ControlArray<0, 1> Label2;  // comment; waterplane area and centre
+  ControlArray<0, 2> Label1;  // instructions
   bool visible = false;
 
   i16 mode = 0;

@@ -110,7 +110,8 @@ HydroOutcome floatAtDisplacement(HullStore& h, double zWL, const SolverPassHook&
       h.pitch += step;
     }
     ++out.outerPasses;
-    if (!steering || out.outerPasses >= kSolverPasses || std::fabs(h.xDisp - h.xMass) <= length * 0.002)
+    if (!steering || out.outerPasses >= kSolverPasses ||
+        std::fabs(h.xDisp - h.xMass) <= length * 0.002)
       break;
   }
   out.zWL = zWL;

@@ -17,7 +17,7 @@ struct HydroSums {
 
 // What a counted pass learns of the planks under water.
 struct Immersion {
-  i16 immersedChine = -1;  // highest line wholly under water at some section
+  i16 immersedChine = -1;   // highest line wholly under water at some section
   bool allImmersed = true;  // every section under its last line
 };
 
@@ -40,8 +40,8 @@ struct HydroOutcome {
   int innerPasses = 0;  // counted passes of the solver, all outer passes
 };
 
-inline constexpr int kSolverPasses = 30;         // outer and inner limits
-inline constexpr double kDispTolerance = 0.0001;  // m3
+inline constexpr int kSolverPasses = 30;               // outer and inner limits
+inline constexpr double kDispTolerance = 0.0001;       // m3
 inline constexpr double kEmptyWaterplane = 0.0000001;  // m2
 
 // Mode 1: one counted pass at the waterline zWL and the store's pitch.

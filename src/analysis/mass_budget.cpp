@@ -26,7 +26,8 @@ PlateMeasure plankMeasure(const HullStore& h, int n) {
 PlateMeasure planMeasure(const HullStore& h, int line) {
   double A = 0, M = 0;
   for (int i = 1; i <= kLastPoint; ++i) {
-    const double a = (h.lineX(line, i) - h.lineX(line, i - 1)) * (h.lineY(line, i) + h.lineY(line, i - 1));
+    const double a =
+        (h.lineX(line, i) - h.lineX(line, i - 1)) * (h.lineY(line, i) + h.lineY(line, i - 1));
     A += a;
     M += (h.lineX(line, i - 1) + h.lineX(line, i)) * a / 2;
   }

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "analysis/calc_section.h"
-#include "analysis/mass_budget.h"
 #include "analysis/field_read.h"
+#include "analysis/mass_budget.h"
 #include "text/number_format.h"
 #include "text/number_reader.h"
 
@@ -99,11 +99,11 @@ void setMassTexts(Mass1& s, const HullStore& h) {
   s.Frame4.caption = fr ? "Equipements" : "Equipment";
   for (const auto& c : kRowCaptions) s.Label3(c.row).caption = fr ? c.french : c.english;
   s.Label1.caption = fr ? "Entrez les données uniquement dans les cases vertes.\n"
-                  "Les cases roses sont réservées aux résultats de calcul.\n"
-                  "(Une densité de panneau de 10 kg/m2 correspond à 12mm de contreplaqué)"
-                : "Enter data only in the green boxes.\n"
-                  "Pink boxes are reserved for computation results.\n"
-                  "(Panel density of 10 kg/m2 correspond to 12mm plywood)";
+                          "Les cases roses sont réservées aux résultats de calcul.\n"
+                          "(Une densité de panneau de 10 kg/m2 correspond à 12mm de contreplaqué)"
+                        : "Enter data only in the green boxes.\n"
+                          "Pink boxes are reserved for computation results.\n"
+                          "(Panel density of 10 kg/m2 correspond to 12mm plywood)";
   s.Label2(1).caption = fr ? "Densité des panneaux (kg/m2)" : "Panels density (kg/m2)";
   s.Label2(2).caption = fr ? "Surface\n(m2)" : "Area\n(m2)";
   s.Label2(3).caption = fr ? "Masse\n(kg)" : "Mass\n(kg)";
@@ -163,7 +163,8 @@ void calcPlankRows(Mass1& s, HullStore& h) {
 
 void calcFloorRows(Mass1& s, HullStore& h) {
   calcFloors(h, s.nFloors);
-  for (int k = 1; k <= s.nFloors; ++k) showRow(s, 20 + k, h.floorArea(k), h.floorMass(k), h.floorX(k));
+  for (int k = 1; k <= s.nFloors; ++k)
+    showRow(s, 20 + k, h.floorArea(k), h.floorMass(k), h.floorX(k));
 }
 
 void calcDeckRows(Mass1& s, HullStore& h) {
@@ -192,8 +193,10 @@ void showMassRows(Mass1& s, const HullStore& h) {
   for (int r = 1; r <= 8; ++r) s.Text1(r).text = density(h.panelDensity(r));
   for (int j = 1; j <= 2; ++j) s.Text1(20 + j).text = density(h.floorDensity(j));
   for (int j = 1; j <= 2; ++j) s.Text1(22 + j).text = density(h.deckDensity(j));
-  for (int r = 1; r <= s.nFloors + 1; ++r) showRow(s, r, h.plankArea(r - 1), h.plankMass(r - 1), h.plankX(r - 1));
-  for (int k = 1; k <= s.nFloors; ++k) showRow(s, 20 + k, h.floorArea(k), h.floorMass(k), h.floorX(k));
+  for (int r = 1; r <= s.nFloors + 1; ++r)
+    showRow(s, r, h.plankArea(r - 1), h.plankMass(r - 1), h.plankX(r - 1));
+  for (int k = 1; k <= s.nFloors; ++k)
+    showRow(s, 20 + k, h.floorArea(k), h.floorMass(k), h.floorX(k));
   for (int k = 1; k <= s.nDecks; ++k) showRow(s, 22 + k, h.deckArea(k), h.deckMass(k), h.deckX(k));
   showRow(s, 5, h.transomArea, h.transomMass, h.transomX);
   showRow(s, 6, h.bowArea, h.bowMass, h.bowX);

@@ -35,7 +35,7 @@ struct Mass1 {
 
 // Rows that exist, in the order of the table on the screen.
 inline constexpr std::array<int, 18> kMassTableRows = {1,  2,  3,  4,  5,  6,  7,  8,  21,
-                                                        22, 23, 24, 13, 14, 15, 16, 17, 18};
+                                                       22, 23, 24, 13, 14, 15, 16, 17, 18};
 
 // Once, when the screen is loaded.
 void loadMass(Mass1& s, const HullStore& h);

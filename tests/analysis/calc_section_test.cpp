@@ -1,8 +1,9 @@
 // Cuts of one section by a level, on sections whose areas and centres are
 // known by hand.
+#include "analysis/calc_section.h"
+
 #include <gtest/gtest.h>
 
-#include "analysis/calc_section.h"
 #include "shape_hulls.h"
 
 namespace tolmar {
@@ -20,11 +21,11 @@ struct Cut {
 TEST(CalcSection, BoxSectionByLevel) {
   const auto h = shapes::boxHull(4, 0.5, 1);
   const Cut cuts[] = {
-      {-0.1, 0, 0, 0, -1},        // dry: under the keel
-      {0, 0, 0, 0.5, 1},          // the chine at the water counts as under water
+      {-0.1, 0, 0, 0, -1},  // dry: under the keel
+      {0, 0, 0, 0.5, 1},    // the chine at the water counts as under water
       {0.25, 0.25, 0.125, 0.5, 1},
-      {1, 1, 0.5, 0.5, 2},        // the sheer at the water: still part of the waterplane
-      {1.5, 1, 0.5, 0, 2},        // above the last line: the hull is open, no waterplane
+      {1, 1, 0.5, 0.5, 2},  // the sheer at the water: still part of the waterplane
+      {1.5, 1, 0.5, 0, 2},  // above the last line: the hull is open, no waterplane
   };
   for (const Cut& c : cuts) {
     const SectionCut s = calcSection(*h, 41, c.z);

@@ -2,6 +2,8 @@
 // against a golden file, a waterline typed with a decimal comma, and the
 // command line's errors.
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <array>
 #include <cstdio>
@@ -11,9 +13,6 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -36,7 +35,8 @@ const std::string kDefaultHull = (fs::path(TOLMAR_GOLDEN) / "default_hull.D50").
 
 CliRun hydro(const std::string& args) {
   const fs::path err = fs::temp_directory_path() / ("tolmar_hydro_err_" + std::to_string(getpid()));
-  const std::string cmd = "'" + std::string(TOLMAR_CLI) + "' hydro " + args + " 2>'" + err.string() + "'";
+  const std::string cmd =
+      "'" + std::string(TOLMAR_CLI) + "' hydro " + args + " 2>'" + err.string() + "'";
   CliRun r;
   FILE* p = popen(cmd.c_str(), "r");
   if (!p) return r;
@@ -70,7 +70,8 @@ TEST(CliHydro, DefaultHullWithItsMassBudget) {
   // The mass budget's total, rounded to the field, is the displacement.
   const json& total = j["mass1"].back();
   EXPECT_EQ(total["row"], 0);
-  EXPECT_NEAR(j["dispTarget"].get<double>(), std::stod(total["Text3"].get<std::string>()) / 1000, 0.0005);
+  EXPECT_NEAR(j["dispTarget"].get<double>(), std::stod(total["Text3"].get<std::string>()) / 1000,
+              0.0005);
   EXPECT_LT(std::abs(j["V"].get<double>() - j["dispTarget"].get<double>()), 0.0001);
   EXPECT_EQ(j["mass1"].size(), 19u);
   for (const char* a : {"wlX", "wlY", "wlZ", "sectArea"}) EXPECT_TRUE(allNumbers(j[a])) << a;

@@ -1,11 +1,12 @@
 // The hydrostatics screen: what it reads from its fields, what it writes
 // back, and the comment line with its colour.
+#include "analysis/hydro_screen.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <string>
 
-#include "analysis/hydro_screen.h"
 #include "default_hull.h"
 #include "shape_hulls.h"
 
@@ -165,9 +166,10 @@ TEST(Hydro1, EnglishTexts) {
   EXPECT_EQ(s.title.caption, "  Hydrostatic computation");
   EXPECT_EQ(s.Option1(1).caption, "Z Waterline (m)");
   EXPECT_EQ(s.Label3(0).caption, "Pitch angle (deg)");
-  EXPECT_EQ(s.Label1(1).caption,
-            "Enter the height of the waterline to compute the displacement\nthen click 'Z Waterline' "
-            "button.");
+  EXPECT_EQ(
+      s.Label1(1).caption,
+      "Enter the height of the waterline to compute the displacement\nthen click 'Z Waterline' "
+      "button.");
   const std::string& units = s.Label1(2).caption;
   EXPECT_EQ(units.substr(units.size() - 12), "(m and m³).");
 }

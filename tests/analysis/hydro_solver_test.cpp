@@ -1,10 +1,11 @@
 // Mode 1 against volumes, waterplanes and centres computed by hand, and the
 // solver of mode 0 against the displacement it is asked for.
+#include "analysis/hydro_solver.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analysis/hydro_solver.h"
 #include "shape_hulls.h"
 
 namespace tolmar {
@@ -12,7 +13,8 @@ namespace {
 
 bool finiteTables(const HullStore& h) {
   for (int i = 0; i <= kLastPoint; ++i)
-    for (double v : {h.wlX(i), h.wlY(i), h.wlZ(i), h.sectArea(i), h.sectX(i), h.sectY(i), h.sectZ(i)})
+    for (double v :
+         {h.wlX(i), h.wlY(i), h.wlZ(i), h.sectArea(i), h.sectX(i), h.sectY(i), h.sectZ(i)})
       if (!std::isfinite(v)) return false;
   return std::isfinite(h.pitch) && std::isfinite(h.xDisp) && std::isfinite(h.zDisp);
 }
@@ -141,7 +143,8 @@ TEST(FloatAtDisplacement, FirstPitchSteps) {
 // A centre of mass within 0.2% of the length of the centre of displacement,
 // or not forward of a tenth of the length: one outer pass, pitch as given.
 TEST(FloatAtDisplacement, NoPitchStepNearOrWithoutAMass) {
-  for (auto [xMass, pitch] : {std::pair{2.0 + 0.007, 0.0}, std::pair{0.0, 0.01}, std::pair{0.4, 0.01}}) {
+  for (auto [xMass, pitch] :
+       {std::pair{2.0 + 0.007, 0.0}, std::pair{0.0, 0.01}, std::pair{0.4, 0.01}}) {
     auto h = shapes::boxHull(4, 0.5, 1);
     h->dispTarget = 1.0;
     h->xMass = xMass;

@@ -1,6 +1,8 @@
 // The mass budget on a box whose plates are measured by hand, the rows that
 // the number of chines leaves blank, the limits on what is typed, and the
 // hand-over of the mass to the hydrostatics.
+#include "analysis/mass_budget.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,7 +11,6 @@
 #include <vector>
 
 #include "analysis/analysis_screens.h"
-#include "analysis/mass_budget.h"
 #include "analysis/mass_screen.h"
 #include "shape_hulls.h"
 
@@ -51,8 +52,8 @@ TEST(MassBudget, BoxPlatesByHand) {
 
 TEST(MassBudget, BulkheadStandsOnAStation) {
   auto h = stackedBox(2);
-  const std::pair<double, int> table[] = {{-1, 1}, {0, 1}, {0.049, 1}, {0.05, 2},
-                                          {3.0, 61}, {3.99, 80}, {4, 81}, {9, 81}};
+  const std::pair<double, int> table[] = {{-1, 1},   {0, 1},     {0.049, 1}, {0.05, 2},
+                                          {3.0, 61}, {3.99, 80}, {4, 81},    {9, 81}};
   for (auto [x, p] : table) EXPECT_EQ(bulkheadPoint(*h, x), p) << x;
 }
 
@@ -107,7 +108,8 @@ TEST(MassBudget, RowsBlankedByTheNumberOfChines) {
     EXPECT_EQ(m.s.nDecks, b.decks);
     for (int r : {3, 22, 24}) {
       const bool blank = std::find(b.blank.begin(), b.blank.end(), r) != b.blank.end();
-      EXPECT_EQ(m.s.Text2(r).text == " " && m.s.Text3(r).text == " " && m.s.Text4(r).text == " ", blank)
+      EXPECT_EQ(m.s.Text2(r).text == " " && m.s.Text3(r).text == " " && m.s.Text4(r).text == " ",
+                blank)
           << b.lines << " lines, row " << r;
     }
     const std::string row4 = b.lines < 4 ? "0.000" : "8.000";

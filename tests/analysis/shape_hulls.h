@@ -52,7 +52,8 @@ inline std::unique_ptr<HullStore> boxHull(double length, double b, double depth)
 
 // The box with a half breadth growing linearly from bAft at X = 0 to bFwd
 // at the length.
-inline std::unique_ptr<HullStore> taperedBox(double length, double bAft, double bFwd, double depth) {
+inline std::unique_ptr<HullStore> taperedBox(double length, double bAft, double bFwd,
+                                             double depth) {
   return shapeHull(length, 2, [=](int k, double x) {
     const double b = bAft + (bFwd - bAft) * x / length;
     return k == 0 ? YZ{0, 0} : k == 1 ? YZ{b, 0} : YZ{b, depth};
