@@ -59,9 +59,7 @@ void settle(ValidationLog& log, Field& f, double v, bool replaced, std::int32_t 
 }
 
 // |text| or the signed text, held to the scale of any hull.
-double magnitude(const Field& f, bool& over) {
-  return withinScale(std::abs(fieldValue(f)), over);
-}
+double magnitude(const Field& f, bool& over) { return withinScale(std::abs(fieldValue(f)), over); }
 double signedValue(const Field& f, bool& over) { return withinScale(fieldValue(f), over); }
 
 // A whole number of degrees within [lo, hi]; the test is made before the

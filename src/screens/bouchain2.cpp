@@ -96,7 +96,8 @@ void Bouchain2::activate(HullStore& h) {
   Valider.caption = kValider.of(l);
   titre1(0).caption = kTitre1.of(l);
   for (int i = 1; i <= 7; ++i) Label1(i).caption = kLabel1[i - 1].of(l);
-  for (int i = 0; i < kRows; ++i) Label2(i).caption = std::string(kPlank.of(l)) + " " + std::to_string(i + 1);
+  for (int i = 0; i < kRows; ++i)
+    Label2(i).caption = std::string(kPlank.of(l)) + " " + std::to_string(i + 1);
 
   const int row = h.nChines >= 6 ? 4 : (h.nChines < 2 ? 0 : h.nChines - 2);
   clickOptShear(h, row);
@@ -121,9 +122,7 @@ void Bouchain2::clickOptShear(HullStore& h, int i) {
 
 void Bouchain2::clickOptMarotte(HullStore& h, int i) { clickTurn(OptMarotte, h.bowTurn, h, i); }
 
-void Bouchain2::clickOptTableau(HullStore& h, int i) {
-  clickTurn(OptTableau, h.transomTurn, h, i);
-}
+void Bouchain2::clickOptTableau(HullStore& h, int i) { clickTurn(OptTableau, h.transomTurn, h, i); }
 
 bool Bouchain2::validerPlanks(HullStore& h) {
   // Only an activation brings nChines into 2..6; a store changed since is

@@ -19,9 +19,9 @@ class ValidationLog;
 class Bouchain3 {
  public:
   Field title;
-  Field Valider;  // "Valider/end" in both languages
-  ControlArray<0, 1> Label0;  // (0) the three lines of explanation, (1) Text0's label
-  Field Text0;                // number of side planks, nChines - 1
+  Field Valider;                     // "Valider/end" in both languages
+  ControlArray<0, 1> Label0;         // (0) the three lines of explanation, (1) Text0's label
+  Field Text0;                       // number of side planks, nChines - 1
   ControlArray<0, 0> Text1, Label1;  // first plank's inclination
   ControlArray<0, 3> Text2, Label2;  // last plank's inclination; sheer heights fwd, mid, aft
   Field Text4, Label4;               // stem shape

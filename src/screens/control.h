@@ -13,9 +13,9 @@
 
 namespace tolmar {
 
-inline constexpr std::int32_t kWhite = rgb(255, 255, 255);   // value accepted
-inline constexpr std::int32_t kYellow = rgb(255, 255, 0);    // value replaced by a bound
-inline constexpr std::int32_t kOrange = rgb(255, 125, 0);    // value refused
+inline constexpr std::int32_t kWhite = rgb(255, 255, 255);  // value accepted
+inline constexpr std::int32_t kYellow = rgb(255, 255, 0);   // value replaced by a bound
+inline constexpr std::int32_t kOrange = rgb(255, 125, 0);   // value refused
 inline constexpr std::int32_t kBlack = rgb(0, 0, 0);
 
 struct Field {

@@ -6,12 +6,24 @@ namespace tolmar {
 
 GeometryBackup::GeometryBackup(const HullStore& h)
     : bowAngle_(h.bowAngle),
-      xAft_(h.xAft), yAft_(h.yAft), zAft_(h.zAft),
-      xMax_(h.xMax), yMax_(h.yMax), zMax_(h.zMax),
-      xFwd_(h.xFwd), yFwd_(h.yFwd), zFwd_(h.zFwd),
-      planeA_(h.planeA), planeB_(h.planeB), planeC_(h.planeC),
-      lineX_(h.lineX), lineY_(h.lineY), lineZ_(h.lineZ),
-      edgeX_(h.edgeX), edgeY_(h.edgeY), edgeZ_(h.edgeZ),
+      xAft_(h.xAft),
+      yAft_(h.yAft),
+      zAft_(h.zAft),
+      xMax_(h.xMax),
+      yMax_(h.yMax),
+      zMax_(h.zMax),
+      xFwd_(h.xFwd),
+      yFwd_(h.yFwd),
+      zFwd_(h.zFwd),
+      planeA_(h.planeA),
+      planeB_(h.planeB),
+      planeC_(h.planeC),
+      lineX_(h.lineX),
+      lineY_(h.lineY),
+      lineZ_(h.lineZ),
+      edgeX_(h.edgeX),
+      edgeY_(h.edgeY),
+      edgeZ_(h.edgeZ),
       bevelAngle_(h.bevelAngle) {}
 
 void GeometryBackup::restore(HullStore& h) const {

@@ -22,16 +22,10 @@ double plankWidth(const HullStore& h, int k, const LineArr& z, double exponent) 
 
 }  // namespace
 
-double plankW_FWD(const HullStore& h, i16 k) {
-  return plankWidth(h, k, h.zFwd, h.stemShape / 2);
-}
+double plankW_FWD(const HullStore& h, i16 k) { return plankWidth(h, k, h.zFwd, h.stemShape / 2); }
 
-double plankW_MID(const HullStore& h, i16 k) {
-  return plankWidth(h, k, h.zMax, h.stemShape / 3);
-}
+double plankW_MID(const HullStore& h, i16 k) { return plankWidth(h, k, h.zMax, h.stemShape / 3); }
 
-double plankW_AFT(const HullStore& h, i16 k) {
-  return plankWidth(h, k, h.zAft, h.stemShape / 3);
-}
+double plankW_AFT(const HullStore& h, i16 k) { return plankWidth(h, k, h.zAft, h.stemShape / 3); }
 
 }  // namespace tolmar

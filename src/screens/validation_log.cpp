@@ -23,8 +23,8 @@ const ValidationLog::Tracked* ValidationLog::find(const Field& f) const {
 
 void ValidationLog::record(const Field& f, std::string kept, bool marked) {
   const Tracked* t = find(f);
-  out_.push_back({screen_, t ? t->control : std::string(), t ? t->typed : f.text, std::move(kept),
-                  marked});
+  out_.push_back(
+      {screen_, t ? t->control : std::string(), t ? t->typed : f.text, std::move(kept), marked});
 }
 
 void ValidationLog::replaced(Field& f, double kept, std::int32_t colour) {

@@ -1,5 +1,7 @@
 // The bottom and first chine screen: clamping order, the snap of the
 // maximum beam, derived values on the default hull, and any text.
+#include "screens/bouchain1.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,7 +9,6 @@
 #include "hull/chine_equations.h"
 #include "hull/geometrie.h"
 #include "screen_fixtures.h"
-#include "screens/bouchain1.h"
 #include "screens/field_number.h"
 
 namespace tolmar {
@@ -78,7 +79,9 @@ TEST(Bouchain1, DefaultHullGivesTheDocumentedGeometry) {
   EXPECT_NEAR(bottomZ(h, 5, 0), -0.164483, 5e-7);
   EXPECT_NEAR(h.xMax(0), 3.797144649618, 1e-12);
   // The plane of line 1 holds its three control points.
-  auto planeZ = [&h](double x, double y) { return h.planeA(1) + h.planeB(1) * x + h.planeC(1) * y; };
+  auto planeZ = [&h](double x, double y) {
+    return h.planeA(1) + h.planeB(1) * x + h.planeC(1) * y;
+  };
   EXPECT_NEAR(planeZ(0, 0.7), 0.15, 1e-12);
   EXPECT_NEAR(planeZ(3, 0.95), 0, 1e-12);
   EXPECT_NEAR(planeZ(6, 0), 0.1, 1e-12);
@@ -112,31 +115,31 @@ struct Bound {
 
 TEST(Bouchain1, BoundsAreReplacedAndPassOnTheSecondPress) {
   const Bound cases[] = {
-      {1, 1, "4.5", "4.2", "y"},     // 0.7 L
+      {1, 1, "4.5", "4.2", "y"},  // 0.7 L
       {1, 1, "4.2", "4.2", "w"},
-      {1, 1, "1", "1.2", "y"},       // 0.2 L
+      {1, 1, "1", "1.2", "y"},  // 0.2 L
       {1, 1, "1.2", "1.2", "w"},
-      {1, 1, "3.04", "3", "w"},      // snapped down onto a station
-      {1, 1, "-3.1", "3.075", "w"},  // absolute, then the station below
-      {1, 2, "0.05", "0.06", "y"},   // 0.01 L
-      {1, 2, "3.5", "3", "y"},       // 0.5 L
-      {1, 3, "0.95", "0.9405", "y"}, // tested at 0.991 yMax, replaced at 0.99 yMax
+      {1, 1, "3.04", "3", "w"},       // snapped down onto a station
+      {1, 1, "-3.1", "3.075", "w"},   // absolute, then the station below
+      {1, 2, "0.05", "0.06", "y"},    // 0.01 L
+      {1, 2, "3.5", "3", "y"},        // 0.5 L
+      {1, 3, "0.95", "0.9405", "y"},  // tested at 0.991 yMax, replaced at 0.99 yMax
       {1, 3, "0.94", "0.94", "w"},
-      {1, 4, "1", "0.95", "y"},      // yMax
+      {1, 4, "1", "0.95", "y"},  // yMax
       {1, 5, "2", "2.1", "y"},
       {1, 6, "6", "5", "y"},
       {1, 6, "5", "5", "w"},
       {2, 0, "-0.2", "0", "y"},
-      {2, 1, "-0.5", "-0.1", "y"},   // -zFwd(1)
+      {2, 1, "-0.5", "-0.1", "y"},  // -zFwd(1)
       {2, 1, "-0.1", "-0.1", "w"},
-      {2, 2, "-7.25", "-7.25", "w"}, // S shapes: no range
+      {2, 2, "-7.25", "-7.25", "w"},  // S shapes: no range
       {2, 3, "50", "45", "y"},
       {2, 3, "-25", "-20", "y"},
-      {2, 3, "12.5", "12", "w"},     // half to even
+      {2, 3, "12.5", "12", "w"},  // half to even
       {2, 3, "13.5", "14", "w"},
       {2, 4, "-80", "70", "y"},
       {2, 5, "99", "60", "y"},
-      {2, 6, "25", "-25", "w"},      // the stored angle is never positive
+      {2, 6, "25", "-25", "w"},  // the stored angle is never positive
       {2, 6, "-30", "-30", "w"},
       {2, 6, "75", "-70", "y"},
   };
@@ -193,9 +196,9 @@ TEST(Bouchain1, ShortLengthIsOrangeWithABeepAndSetsTheRelativeBounds) {
     EXPECT_EQ(o.s.Text1(0).text, "0.1");
     EXPECT_EQ(o.s.Text1(0).backColor, kOrange);
     EXPECT_EQ(o.h.xFwd(0), 0.1);
-    EXPECT_EQ(o.s.Text1(1).text, "0.07");   // 3 above 0.7 x 0.1
-    EXPECT_EQ(o.s.Text1(2).text, "0.05");   // 0.95 above 0.5 x 0.1
-    EXPECT_EQ(o.s.Text1(4).text, "0.05");   // 0.7 above yMax(1)
+    EXPECT_EQ(o.s.Text1(1).text, "0.07");  // 3 above 0.7 x 0.1
+    EXPECT_EQ(o.s.Text1(2).text, "0.05");  // 0.95 above 0.5 x 0.1
+    EXPECT_EQ(o.s.Text1(4).text, "0.05");  // 0.7 above yMax(1)
     EXPECT_EQ(o.s.Text1(1).backColor, kYellow);
     // The length must lie above 0.1: the bound itself is refused again.
     EXPECT_FALSE(o.s.validerBottom(o.h));

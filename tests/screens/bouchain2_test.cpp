@@ -1,6 +1,8 @@
 // The planks screen: rows by nChines, turn-in options, clamping of
 // inclinations and heights, half breadths, the rebuild of the upper lines
 // and its refusals.
+#include "screens/bouchain2.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -9,7 +11,6 @@
 #include "hull/geometrie.h"
 #include "hull/line_generation.h"
 #include "screen_fixtures.h"
-#include "screens/bouchain2.h"
 #include "screens/field_number.h"
 #include "screens/plank_breadths.h"
 #include "text/number_text.h"
@@ -72,7 +73,8 @@ TEST(Bouchain2, DefaultHullActivation) {
 TEST(Bouchain2, CaptionsByLanguage) {
   Opened o;
   EXPECT_EQ(o.s.title.caption, "  Bordés ");
-  EXPECT_EQ(o.s.titre1(0).caption, "Définition des bordés et hauteur de leurs bouchains supérieurs");
+  EXPECT_EQ(o.s.titre1(0).caption,
+            "Définition des bordés et hauteur de leurs bouchains supérieurs");
   EXPECT_EQ(o.s.Label1(4).caption, "Inclinaison du bordé (deg/horizontal)");
   EXPECT_EQ(o.s.Label1(5).caption, "Livet");
   EXPECT_EQ(o.s.Label2(2).caption, "Bordé 3");
@@ -195,18 +197,15 @@ struct Bound {
 
 TEST(Bouchain2, BoundsAreReplacedAndPassOnTheSecondPress) {
   const Bound cases[] = {
-      {0, '4', "10", "17", true},    // plankAngle(0) + 5
-      {0, '4', "17", "17", false},
-      {0, '4', "-60", "60", false},  // absolute value
+      {0, '4', "10", "17", true},                                     // plankAngle(0) + 5
+      {0, '4', "17", "17", false},     {0, '4', "-60", "60", false},  // absolute value
       {0, '4', "95", "90", true},    // the lowest plank is not beyond the vertical
       {1, '4', "30", "45", true},    // not flatter than the plank below
       {1, '4', "44.5", "45", true},  // rounded half to even, then held
-      {3, '4', "180", "175", true},
-      {0, '3', "0.05", "0.1", true},  // zFwd(1)
+      {3, '4', "180", "175", true},    {0, '3', "0.05", "0.1", true},  // zFwd(1)
       {0, '3', "0.1", "0.1", false},  // equal to the line below: accepted
       {0, '2', "-0.01", "0", true},   // zMax(1)
-      {0, '1', "0.15", "0.15", false},
-      {2, '1', "0.5", "0.7", true},   // zAft(3)
+      {0, '1', "0.15", "0.15", false}, {2, '1', "0.5", "0.7", true},  // zAft(3)
       {3, '2', "0.99", "1", true},
   };
   for (const Bound& c : cases) {

@@ -1,12 +1,13 @@
 // Automatic planking: the count, the grid of inclinations, the sheer
 // margins, the plank widths and a hull of twenty planks.
+#include "screens/bouchain3.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <utility>
 
 #include "screen_fixtures.h"
-#include "screens/bouchain3.h"
 #include "screens/field_number.h"
 #include "screens/plank_widths.h"
 
@@ -101,11 +102,11 @@ TEST(Bouchain3, NumberOfPlanks) {
     bool replaced;
   };
   const Case cases[] = {
-      {"1", 3, "2", true},     {"25", 21, "20", true}, {"20", 21, "20", false},
-      {"2", 3, "2", false},    {"20.5", 21, "20", true},  // 21.5 rounds to 22
-      {"2.5", 4, "3", false},  // 3.5 rounds to 4
-      {"2,7", 3, "2", false},  // read before cleaning: "2"
-      {"", 3, "2", true},      {"-5", 3, "2", true},
+      {"1", 3, "2", true},    {"25", 21, "20", true},   {"20", 21, "20", false},
+      {"2", 3, "2", false},   {"20.5", 21, "20", true},  // 21.5 rounds to 22
+      {"2.5", 4, "3", false},                            // 3.5 rounds to 4
+      {"2,7", 3, "2", false},                            // read before cleaning: "2"
+      {"", 3, "2", true},     {"-5", 3, "2", true},
   };
   for (const Case& c : cases) {
     Opened o;
@@ -129,14 +130,14 @@ TEST(Bouchain3, InclinationGrid) {
     bool firstReplaced, lastReplaced;
   };
   const Case cases[] = {
-      {"3", "45", "46", 45, 51, 3, false, true},    // step 0 by rounding, replaced by 3
-      {"4", "45", "90", 45, 90, 15, false, false},  // on the grid already
-      {"4", "45", "92", 45, 93, 16, false, false},  // 47/3 rounds to 16: onto the grid
-      {"4", "45", "200", 45, 168, 41, false, true}, // Int((170 - 45)/3)
+      {"3", "45", "46", 45, 51, 3, false, true},     // step 0 by rounding, replaced by 3
+      {"4", "45", "90", 45, 90, 15, false, false},   // on the grid already
+      {"4", "45", "92", 45, 93, 16, false, false},   // 47/3 rounds to 16: onto the grid
+      {"4", "45", "200", 45, 168, 41, false, true},  // Int((170 - 45)/3)
       {"20", "20", "77", 20, 77, 3, false, false},
-      {"2", "10", "30", 16, 30, 14, true, false},   // plankAngle(0) + 4
+      {"2", "10", "30", 16, 30, 14, true, false},  // plankAngle(0) + 4
       {"2", "95", "170", 80, 170, 90, true, false},
-      {"2", "-50", "60", 50, 60, 10, false, false}, // absolute values
+      {"2", "-50", "60", 50, 60, 10, false, false},  // absolute values
   };
   for (const Case& c : cases) {
     Opened o;
@@ -257,7 +258,8 @@ TEST(Bouchain3, ProgressCaptions) {
   std::vector<std::pair<std::string, std::int32_t>> seen;
   o.s.refresh = [&o, &seen] { seen.emplace_back(o.s.Label3.caption, o.s.Label3.foreColor); };
   ASSERT_TRUE(o.s.validerAuto(o.h));
-  const std::int32_t cyan = rgb(192, 255, 255), pale = rgb(255, 255, 192), pink = rgb(255, 192, 192);
+  const std::int32_t cyan = rgb(192, 255, 255), pale = rgb(255, 255, 192),
+                     pink = rgb(255, 192, 192);
   const std::vector<std::pair<std::string, std::int32_t>> expected = {
       {"Positioning chine  2", cyan},
       {"Positioning chine  3", cyan},
@@ -293,7 +295,8 @@ TEST(Bouchain3, AnyTextInAnyField) {
   for (int field = 0; field <= 5; ++field) {
     for (const std::string& typed : badTexts()) {
       Opened o;
-      Field* fields[] = {&o.s.Text0, &o.s.Text1(0), &o.s.Text2(0), &o.s.Text2(1), &o.s.Text2(2), &o.s.Text4};
+      Field* fields[] = {&o.s.Text0,    &o.s.Text1(0), &o.s.Text2(0),
+                         &o.s.Text2(1), &o.s.Text2(2), &o.s.Text4};
       fields[field]->text = typed;
       bool second = false;
       ASSERT_NO_THROW({

@@ -35,8 +35,8 @@ inline bool storeFinite(const HullStore& h) {
     if (!ok(v)) return false;
   }
   for (int n = 0; n <= kMaxLine; ++n) {
-    for (const LineArr* a : {&h.xAft, &h.yAft, &h.zAft, &h.xMax, &h.yMax, &h.zMax, &h.xFwd,
-                             &h.yFwd, &h.zFwd, &h.planeA, &h.planeB, &h.planeC}) {
+    for (const LineArr* a : {&h.xAft, &h.yAft, &h.zAft, &h.xMax, &h.yMax, &h.zMax, &h.xFwd, &h.yFwd,
+                             &h.zFwd, &h.planeA, &h.planeB, &h.planeC}) {
       if (!ok((*a)(n))) return false;
     }
     for (int p = 0; p <= kLastPoint; ++p) {
@@ -57,9 +57,27 @@ inline bool storeFinite(const HullStore& h) {
 // Texts no field should crash on.
 inline const std::vector<std::string>& badTexts() {
   static const std::vector<std::string> texts = {
-      "",        "abc",  "1,5",   "1e999", "-1e999", "-0",   "1234567890123456789012345678901234567890",
-      "   ",     "+.",   "--5",   "5e",    "nan",    "inf",  "0x1p3",
-      "1e-400",  "7,,2", "-",     "1e308", "-40000", "99999", ".",
+      "",
+      "abc",
+      "1,5",
+      "1e999",
+      "-1e999",
+      "-0",
+      "1234567890123456789012345678901234567890",
+      "   ",
+      "+.",
+      "--5",
+      "5e",
+      "nan",
+      "inf",
+      "0x1p3",
+      "1e-400",
+      "7,,2",
+      "-",
+      "1e308",
+      "-40000",
+      "99999",
+      ".",
   };
   return texts;
 }
