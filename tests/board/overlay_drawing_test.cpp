@@ -1,6 +1,8 @@
 // What is drawn over the views: the chosen station and the water line.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 
 #include "board/recording_surface.h"

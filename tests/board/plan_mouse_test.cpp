@@ -2,6 +2,7 @@
 // and the rubber band drawn with the exclusive-or pen.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <map>
 #include <memory>
 #include <tuple>
