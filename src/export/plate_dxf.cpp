@@ -184,19 +184,22 @@ ExportOutcome deckDXF(ExportHost& host, HullStore& h, int lastDeck) {
                    [&](TextSink& out) { writeDeckFile(out, h, lastDeck); });
 }
 
+ExportOutcome savePlateFile(ExportHost& host, HullStore& h, int stepIndex) {
+  const auto plates = h.overlapMode == 1 ? plankPlainDXF : plankLapDXF;
+  if (stepIndex == 0) return plates(host, h, 0);
+  calcTransomPlate(h);
+  if (h.yFwd(1) > 0.0001) calcBowPlate(h);
+  return plates(host, h, lastLineOf(h) - 1);
+}
+
+ExportOutcome saveDeckFile(ExportHost& host, HullStore& h, int stepIndex) {
+  return deckDXF(host, h, stepIndex == 0 ? 1 : lastLineOf(h));
+}
+
 bool saveDevelopedDxf(ExportHost& host, HullStore& h, int stepIndex) {
   if (h.overlapMode != 1 && h.overlapMode != 2) return true;
-  const auto plates = h.overlapMode == 1 ? plankPlainDXF : plankLapDXF;
-  ExportOutcome a, b;
-  if (stepIndex != 0) {
-    calcTransomPlate(h);
-    if (h.yFwd(1) > 0.0001) calcBowPlate(h);
-    a = plates(host, h, lastLineOf(h) - 1);
-    b = deckDXF(host, h, lastLineOf(h));
-  } else {
-    a = plates(host, h, 0);
-    b = deckDXF(host, h, 1);
-  }
+  const ExportOutcome a = savePlateFile(host, h, stepIndex);
+  const ExportOutcome b = saveDeckFile(host, h, stepIndex);
   return a != ExportOutcome::failed && b != ExportOutcome::failed;
 }
 

@@ -28,6 +28,14 @@ ExportOutcome plankPlainDXF(ExportHost& host, HullStore& h, int lastPlate);
 ExportOutcome plankLapDXF(ExportHost& host, HullStore& h, int lastPlate);
 ExportOutcome deckDXF(ExportHost& host, HullStore& h, int lastDeck);
 
+// The two files of fmenu_SD_DXF one by one, for the overlapMode left by
+// overlap1 (1 plain, anything else lap strake).  The plate file computes the
+// transom, and the bow plate for a pram bow, before it is written; with
+// stepIndex 0 it holds the bottom only and the end plates as they stand,
+// and the deck file deck 1 only.
+ExportOutcome savePlateFile(ExportHost& host, HullStore& h, int stepIndex);
+ExportOutcome saveDeckFile(ExportHost& host, HullStore& h, int stepIndex);
+
 // fmenu_SD_DXF after its screen overlap1 has closed: nothing when
 // overlapMode is 0 (or any value but 1 and 2); otherwise the plate file
 // and the deck file, one dialog each, a cancel of the first not stopping
