@@ -1,4 +1,5 @@
 #include "export/dxf_records.h"
+#include "export/polyline_out.h"
 
 #include <gtest/gtest.h>
 
@@ -78,6 +79,19 @@ TEST(DxfRecords, FileFrame) {
             "999\r\n2D lines of Tolmar\r\n  0\r\nSECTION\r\n  2\r\nENTITIES\r\n"
             "  0\r\nPOLYLINE\r\n  8\r\n1\r\n 62\r\n     7\r\n 66\r\n      1\r\n  6\r\nCONTINUOUS\r\n"
             " 70\r\n      8\r\n 0 \r\nSEQEND\r\n  0\r\nENDSEC\r\n  0\r\nEOF\r\n");
+}
+
+TEST(DxfRecords, OneVertexPolylineIsWrittenAsSuch) {
+  StringSink a, b;
+  {
+    PolylineOut p(a, 2, 3);
+    p.vertex(1, 2, 3);
+  }
+  dxfPolyline(b, 2, 3);
+  dxfVertex(b, 2, 3, 1, 2, 3);
+  dxfSeqend(b);
+  EXPECT_EQ(a.text(), b.text());
+  EXPECT_EQ(a.text().substr(a.text().size() - 13), " 0 \r\nSEQEND\r\n");
 }
 
 TEST(DxfRecords, EveryLineEndsInCarriageReturnLineFeed) {
