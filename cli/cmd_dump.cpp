@@ -9,6 +9,7 @@
 #include "command.h"
 #include "json_dump.h"
 #include "pipeline.h"
+#include "plates_json.h"
 #include "store_json.h"
 
 namespace tolmar::cli {
@@ -27,7 +28,7 @@ json stationRows(const StationTable& t, int lastColumn) {
   return rows;
 }
 
-json dumpDocument(const HullStore& h, const PipelineResult& r) {
+json dumpDocument(HullStore& h, const PipelineResult& r) {
   json j = storeJson(h);
   const int n = std::clamp<int>(h.nChines, 0, kMaxLine);
   j["stepIndex"] = r.board.stepIndex;
@@ -45,6 +46,10 @@ json dumpDocument(const HullStore& h, const PipelineResult& r) {
   for (const Replacement& w : r.warnings)
     warnings.push_back({{"screen", w.screen}, {"control", w.control}, {"typed", w.typed}, {"kept", w.kept}});
   j["warnings"] = std::move(warnings);
+  // Developing overwrites only the dev and end-plate arrays, which nothing
+  // above has printed.
+  const json plates = platesJson(h);
+  for (auto it = plates.begin(); it != plates.end(); ++it) j[it.key()] = it.value();
   return j;
 }
 
@@ -72,8 +77,9 @@ Register reg({"dump", "HULL.D50 [--auto] [--set SCREEN.CONTROL=VALUE]...",
               "  the file gives (and any --set typed over them), then bouchain2, or bouchain3\n"
               "  with --auto or for more than six lines, redraws the board, and prints the\n"
               "  store as JSON with stepIndex, stationX/Y/Z (83 rows of nChines + 10 points),\n"
-              "  bevelAngle (lines 1..nChines, points 0..82) and the replaced fields as\n"
-              "  warnings.  Status 1: the file cannot be read; 2: a screen does not pass.",
+              "  bevelAngle (lines 1..nChines, points 0..82), the developed plates, decks\n"
+              "  and end plates, and the replaced fields as warnings.  Status 1: the file\n"
+              "  cannot be read; 2: a screen does not pass.",
               &run});
 
 }  // namespace
