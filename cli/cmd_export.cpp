@@ -26,17 +26,21 @@ int run(const Args& args) {
 }
 
 Register reg({"export",
-              "HULL.D50 KIND OUT [--lang fr|en] [--auto] [--overlap B,LB,S,LS,T,W] [--at X]",
+              "HULL.D50 KIND OUT [--lang fr|en] [--auto] [--set SCREEN.CONTROL=VALUE]...\n"
+              "            [--overlap strip|lap|cancel] [--station X]",
               "  Opens a hull file, validates its screens and redraws the board as the\n"
-              "  program does, then writes one export file to OUT.  KIND: dxf2d, dxf3d,\n"
-              "  xyz, vrml (the hull name then follows OUT, as in the program), plates-dxf,\n"
-              "  decks-dxf (overlap1 answered as strip planking, or lap strake with\n"
-              "  --overlap: bottom thickness, its lap, side thickness, their lap, transom\n"
-              "  and bow thickness, in mm), station-dxf (the station at --at X metres, by\n"
-              "  default the board's, at the maximum beam), plank-xyz:N, deck-xyz:N,\n"
-              "  transom-xyz, bow-xyz.  --lang picks the words of the xyz file (en by\n"
-              "  default).  Status 1: the hull or OUT cannot be read or written, with the\n"
-              "  export's error title on stderr; 2: a wrong command line or hull.",
+              "  program does, then writes one export file to OUT.  KIND: lines2d, lines3d,\n"
+              "  lines-xyz, vrml (the hull name then follows OUT, as in the program),\n"
+              "  plates-dxf, decks-dxf (overlap1 left by --overlap: strip planking, the\n"
+              "  default, lap strake, or cancel, which writes nothing; its fields typed\n"
+              "  with --set overlap1.Text1(0)=6, in mm: Text1(0..1) bottom thickness and\n"
+              "  lap, Text2(0..1) side planks, Text3(1..2) transom and bow thickness),\n"
+              "  station-dxf (the station typed as --station X metres, by default the\n"
+              "  board's, at the maximum beam), plank-xyz:N, deck-xyz:N, transom-xyz,\n"
+              "  bow-xyz.  --set types into bouchain1/2/3 as for dump.  --lang picks the\n"
+              "  words of the files (en by default).  Status 1: the hull or OUT cannot be\n"
+              "  read or written, with the export's error title on stderr; 2: a wrong\n"
+              "  command line or a hull the screens refuse.",
               &run});
 
 }  // namespace

@@ -59,7 +59,7 @@ int run(const Args& args) {
   auto host = in(dir);
   note(saveLinesXyz(host, *h));
   note(saveVrml(host, *h));
-  answerOverlap(*h, a);
+  if (!answerOverlap(*h, a)) return 2;
   ok = saveDevelopedDxf(host, *h, r.board.stepIndex) && ok;
   ok = saveDevelopedXyz(host, *h, r.board.stepIndex) && ok;
   note(stationFileDXF(host, *h, chosenStation(*h, r, a)));
@@ -68,7 +68,7 @@ int run(const Args& args) {
   return ok ? 0 : 1;
 }
 
-Register reg({"export-all", "HULL.D50 DIR [--lang fr|en] [--auto] [--overlap B,LB,S,LS,T,W] [--at X]",
+Register reg({"export-all", "HULL.D50 DIR [options of export]",
               "  Every export of the hull into DIR, under the names the save dialogs\n"
               "  propose: DIR/2D/NAME.DXF and DIR/3D/NAME.DXF (the two share their name),\n"
               "  NAME.XYZ, NAME.WRL, NAME_PLANK.DXF, NAME_DECK.DXF, NAME_Pn.XYZ,\n"

@@ -50,24 +50,35 @@ bool parseExportArgs(const Args& args, ExportArgs& out) {
       out.langue = v == "fr" ? 0 : 1;
     } else if (s == "--auto") {
       out.autoPlanking = true;
-    } else if (s == "--at") {
+    } else if (s == "--station") {
       if (!value(out.stationAt)) return false;
     } else if (s == "--overlap") {
       std::string v;
       if (!value(v)) return false;
-      int k = 0;
-      std::size_t from = 0;
-      while (k < 6) {
-        const auto comma = v.find(',', from);
-        out.overlap[k++] = v.substr(from, comma == std::string::npos ? std::string::npos : comma - from);
-        if (comma == std::string::npos) break;
-        from = comma + 1;
-      }
-      if (k != 6 || v.find(',', from) != std::string::npos) {
-        std::fprintf(stderr, "tolmar-cli: --overlap takes six values in mm, B,LB,S,LS,T,W\n");
+      if (v == "strip") out.overlap = OverlapAnswer::strip;
+      else if (v == "lap") out.overlap = OverlapAnswer::lap;
+      else if (v == "cancel") out.overlap = OverlapAnswer::cancel;
+      else {
+        std::fprintf(stderr, "tolmar-cli: --overlap takes strip, lap or cancel, not '%s'\n", v.c_str());
         return false;
       }
-      out.lapStrake = true;
+    } else if (s == "--set" || s.rfind("--set=", 0) == 0) {
+      std::string v;
+      if (s == "--set") {
+        if (!value(v)) return false;
+      } else {
+        v = s.substr(6);
+      }
+      std::string error;
+      SetValue set = parseSet(v, error);
+      if (error.empty() && set.screen == "overlap1") {
+        if (set.index < 0 || !set.hasValue) error = "overlap1 takes fields as Text1(0)=VALUE";
+      }
+      if (!error.empty()) {
+        std::fprintf(stderr, "tolmar-cli: %s\n", error.c_str());
+        return false;
+      }
+      (set.screen == "overlap1" ? out.overlapSets : out.screenSets).push_back(std::move(set));
     } else if (s.rfind("--", 0) == 0) {
       std::fprintf(stderr, "tolmar-cli: unknown option '%s'\n", s.c_str());
       return false;
@@ -82,6 +93,7 @@ int prepareForExport(HullStore& h, const ExportArgs& a, PipelineResult& r) {
   PipelineOptions o;
   o.hullFile = a.positional.at(0);
   o.autoPlanking = a.autoPlanking;
+  o.sets = a.screenSets;
   r = prepareHull(h, o);
   if (r.status != 0) {
     std::fprintf(stderr, "tolmar-cli: %s\n", r.error.c_str());
@@ -91,24 +103,25 @@ int prepareForExport(HullStore& h, const ExportArgs& a, PipelineResult& r) {
   return 0;
 }
 
-void answerOverlap(HullStore& h, const ExportArgs& a) {
+bool answerOverlap(HullStore& h, const ExportArgs& a) {
   Overlap1 s;
   s.load();
   s.activate(h);
-  if (!a.lapStrake) {
-    s.clickCommand1(h, 1);
-    return;
-  }
   using G = Overlap1::Group;
-  const struct {
-    G g;
-    int i;
-  } fields[6] = {{G::text1, 0}, {G::text1, 1}, {G::text2, 0}, {G::text2, 1}, {G::text3, 1}, {G::text3, 2}};
-  for (int k = 0; k < 6; ++k) {
-    s.typeText(h, fields[k].g, fields[k].i, a.overlap[k]);
-    s.leaveField(h, fields[k].g, fields[k].i);
+  for (const SetValue& set : a.overlapSets) {
+    const bool ok = (set.control == "Text1" && set.index >= 0 && set.index <= 1) ||
+                    (set.control == "Text2" && set.index >= 0 && set.index <= 1) ||
+                    (set.control == "Text3" && set.index >= 1 && set.index <= 2);
+    if (!ok) {
+      std::fprintf(stderr, "tolmar-cli: overlap1 has no field %s\n", set.arg.c_str());
+      return false;
+    }
+    const G g = set.control == "Text1" ? G::text1 : set.control == "Text2" ? G::text2 : G::text3;
+    s.typeText(h, g, set.index, set.value);
+    s.leaveField(h, g, set.index);
   }
-  s.clickCommand1(h, 2);
+  s.clickCommand1(h, static_cast<int>(a.overlap));
+  return true;
 }
 
 int chosenStation(HullStore& h, PipelineResult& r, const ExportArgs& a) {
@@ -119,7 +132,7 @@ int chosenStation(HullStore& h, PipelineResult& r, const ExportArgs& a) {
 
 const std::vector<std::string>& exportKinds() {
   static const std::vector<std::string> kinds = {
-      "dxf2d", "dxf3d", "xyz", "vrml", "plates-dxf", "decks-dxf", "station-dxf",
+      "lines2d", "lines3d", "lines-xyz", "vrml", "plates-dxf", "decks-dxf", "station-dxf",
       "plank-xyz:N", "deck-xyz:N", "transom-xyz", "bow-xyz"};
   return kinds;
 }
@@ -127,12 +140,13 @@ const std::vector<std::string>& exportKinds() {
 int runExportKind(ExportHost& host, HullStore& h, PipelineResult& r, const ExportArgs& a,
                   const std::string& kind) {
   int n = 0;
-  if (kind == "dxf2d") return outcome(saveLines2D(host, h));
-  if (kind == "dxf3d") return outcome(saveLines3D(host, h));
-  if (kind == "xyz") return outcome(saveLinesXyz(host, h));
+  if (kind == "lines2d") return outcome(saveLines2D(host, h));
+  if (kind == "lines3d") return outcome(saveLines3D(host, h));
+  if (kind == "lines-xyz") return outcome(saveLinesXyz(host, h));
   if (kind == "vrml") return outcome(saveVrml(host, h));
   if (kind == "plates-dxf" || kind == "decks-dxf") {
-    answerOverlap(h, a);
+    if (!answerOverlap(h, a)) return 2;
+    if (h.overlapMode != 1 && h.overlapMode != 2) return 0;  // cancelled: nothing written, nothing said
     return outcome(kind == "plates-dxf" ? savePlateFile(host, h, r.board.stepIndex)
                                         : saveDeckFile(host, h, r.board.stepIndex));
   }

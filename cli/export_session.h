@@ -13,13 +13,17 @@
 
 namespace tolmar::cli {
 
+// How overlap1 is left: its three buttons.
+enum class OverlapAnswer { cancel = 0, strip = 1, lap = 2 };
+
 struct ExportArgs {
   std::vector<std::string> positional;
-  int langue = 1;                // --lang en (default) or fr
-  bool autoPlanking = false;     // --auto
-  bool lapStrake = false;        // --overlap given
-  std::string overlap[6];        // the six fields of overlap1, millimetres
-  std::string stationAt;         // --at X: the station's X, as typed on the board
+  int langue = 1;                                 // --lang en (default) or fr
+  bool autoPlanking = false;                      // --auto
+  OverlapAnswer overlap = OverlapAnswer::strip;   // --overlap strip|lap|cancel
+  std::vector<SetValue> screenSets;               // --set bouchainN.CONTROL=VALUE
+  std::vector<SetValue> overlapSets;              // --set overlap1.TextG(i)=VALUE, mm
+  std::string stationAt;  // --station X: the station's X, as typed on the board
 };
 
 // Prints what is wrong on stderr and returns false for a bad command line.
@@ -29,9 +33,10 @@ bool parseExportArgs(const Args& args, ExportArgs& out);
 // status (1 file, 2 screens), 0 when the hull is ready.
 int prepareForExport(HullStore& h, const ExportArgs& a, PipelineResult& r);
 
-// overlap1 answered: strip planking (all 0) or lap strake with the six
-// values; leaves overlapMode 1 or 2 and the thickness and lap tables.
-void answerOverlap(HullStore& h, const ExportArgs& a);
+// overlap1 answered: its fields typed from the --set values, then the
+// button of --overlap; leaves overlapMode 0, 1 or 2 and the thickness and
+// lap tables.  Returns false for a field the screen does not have.
+bool answerOverlap(HullStore& h, const ExportArgs& a);
 
 // The station of fmenu_Station_DXF: the board's station action on --at,
 // or on the X the board shows after a redraw.

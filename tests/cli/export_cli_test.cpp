@@ -72,10 +72,10 @@ struct KindCase {
 
 TEST_F(CliExport, EachKindIsTheFileOfTheDefaultHull) {
   const KindCase cases[] = {
-      {"dxf2d", "Tolmar.DXF", "Tolmar_2D.DXF", ""},
-      {"dxf3d", "Tolmar.DXF", "Tolmar_3D.DXF", ""},
-      {"xyz", "Tolmar.XYZ", "Tolmar.XYZ", ""},
-      {"xyz", "Tolmar.XYZ", "Tolmar_fr.XYZ", "--lang fr"},
+      {"lines2d", "Tolmar.DXF", "Tolmar_2D.DXF", ""},
+      {"lines3d", "Tolmar.DXF", "Tolmar_3D.DXF", ""},
+      {"lines-xyz", "Tolmar.XYZ", "Tolmar.XYZ", ""},
+      {"lines-xyz", "Tolmar.XYZ", "Tolmar_fr.XYZ", "--lang fr"},
       {"vrml", "Tolmar.WRL", "Tolmar.WRL", ""},
       {"plates-dxf", "Tolmar_PLANK.DXF", "Tolmar_PLANK.DXF", ""},
       {"decks-dxf", "Tolmar_DECK.DXF", "Tolmar_DECK.DXF", ""},
@@ -96,14 +96,16 @@ TEST_F(CliExport, EachKindIsTheFileOfTheDefaultHull) {
 }
 
 TEST_F(CliExport, StationAtAnX) {
-  const CliRun r = cli("export " + hull() + " station-dxf " + at("s.DXF") + " --at 0.3");
+  const CliRun r = cli("export " + hull() + " station-dxf " + at("s.DXF") + " --station 0.3");
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(slurp(dir_ / "s.DXF").substr(0, 17), "999\r\nstation  5\r\n");
 }
 
 TEST_F(CliExport, LapStrakeAddsTheOutlineWithMaterial) {
   const CliRun plain = cli("export " + hull() + " plates-dxf " + at("a.DXF"));
-  const CliRun lap = cli("export " + hull() + " plates-dxf " + at("b.DXF") + " --overlap 9,25,6,18,12,15");
+  const CliRun lap = cli("export " + hull() + " plates-dxf " + at("b.DXF") + " --overlap lap --set 'overlap1.Text1(0)=9' --set 'overlap1.Text1(1)=25'"
+                                   " --set 'overlap1.Text2(0)=6' --set 'overlap1.Text2(1)=18'"
+                                   " --set 'overlap1.Text3(1)=12' --set 'overlap1.Text3(2)=15'");
   ASSERT_EQ(plain.status, 0) << plain.err;
   ASSERT_EQ(lap.status, 0) << lap.err;
   const std::string a = slurp(dir_ / "a.DXF"), b = slurp(dir_ / "b.DXF");
@@ -113,7 +115,7 @@ TEST_F(CliExport, LapStrakeAddsTheOutlineWithMaterial) {
 }
 
 TEST_F(CliExport, UnwritablePathFailsWithTheExportTitleAndLeavesNothing) {
-  const CliRun r = cli("export " + hull() + " dxf3d " + at("missing/x.DXF"));
+  const CliRun r = cli("export " + hull() + " lines3d " + at("missing/x.DXF"));
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.err, "Tolmar2008 - Saving Hull line 3D DXF: No such file or directory\n");
   EXPECT_FALSE(fs::exists(dir_ / "missing"));
@@ -121,11 +123,13 @@ TEST_F(CliExport, UnwritablePathFailsWithTheExportTitleAndLeavesNothing) {
 
 TEST_F(CliExport, WrongCommandLines) {
   EXPECT_EQ(cli("export " + hull() + " bogus " + at("x")).status, 2);
-  EXPECT_EQ(cli("export " + hull() + " dxf2d").status, 2);
-  EXPECT_EQ(cli("export " + hull() + " xyz " + at("x") + " --lang de").status, 2);
+  EXPECT_EQ(cli("export " + hull() + " lines2d").status, 2);
+  EXPECT_EQ(cli("export " + hull() + " lines-xyz " + at("x") + " --lang de").status, 2);
   EXPECT_EQ(cli("export " + hull() + " plank-xyz:5 " + at("x")).status, 2);  // planks 0..4
   EXPECT_EQ(cli("export " + hull() + " plates-dxf " + at("x") + " --overlap 1,2").status, 2);
-  EXPECT_EQ(cli("export " + at("none.D50") + " dxf2d " + at("x")).status, 1);
+  EXPECT_EQ(cli("export " + hull() + " plates-dxf " + at("x") + " --set 'overlap1.Text4(0)=1'").status, 2);
+  EXPECT_EQ(cli("export " + hull() + " plates-dxf " + at("x") + " --overlap cancel").status, 0);
+  EXPECT_EQ(cli("export " + at("none.D50") + " lines2d " + at("x")).status, 1);
   EXPECT_FALSE(fs::exists(dir_ / "x"));
 }
 
