@@ -18,7 +18,10 @@
 namespace tolmar::fixture {
 
 inline void require(bool ok, const char* what) {
-  if (!ok) throw std::runtime_error(std::string("fixture: validation refused: ") + what);
+  if (ok) return;
+  std::string msg = "fixture: validation refused: ";
+  msg.append(what);
+  throw std::runtime_error(msg);
 }
 
 inline void validateBottom(HullStore& h) {
