@@ -1,0 +1,207 @@
+// tolmar-cli print: a hull file taken through its screens as `dump` takes
+// it, then one entry of the print menu run on a PDF printer.
+#ifdef TOLMAR_HAVE_QTDRAW
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "board/board_model.h"
+#include "cli_session_args.h"
+#include "command.h"
+#include "pipeline.h"
+#include "printing/print_menu.h"
+#include "qtdraw/paged_surface.h"
+
+namespace tolmar::cli {
+namespace {
+
+using board::BoardControl;
+
+constexpr const char* kUsage =
+    "HULL.D50 data|drawing|develop|station|all OUT.pdf [--paper A4|A3|Letter] [--landscape]\n"
+    "      [--station X] [--lang fr|en] [--auto] [--set SCREEN.CONTROL=VALUE]...";
+
+struct PrintArgs {
+  BoardControl entry = BoardControl::fmenu_P_Data;
+  std::string out;
+  QPageSize::PageSizeId paper = QPageSize::A4;
+  bool landscape = false;
+  std::optional<std::string> station;
+  std::optional<int> langue;
+};
+
+int usage(const char* why) {
+  std::fprintf(stderr, "tolmar-cli print: %s\nusage: tolmar-cli print %s\n", why, kUsage);
+  return 2;
+}
+
+std::optional<BoardControl> kindEntry(const std::string& kind) {
+  static const std::map<std::string, BoardControl> kinds = {
+      {"data", BoardControl::fmenu_P_Data},       {"drawing", BoardControl::fmenu_P_Dessin},
+      {"develop", BoardControl::fmenu_P_Develop}, {"station", BoardControl::fmenu_P_Station},
+      {"all", BoardControl::fmenu_P_Tout}};
+  const auto it = kinds.find(kind);
+  if (it == kinds.end()) return std::nullopt;
+  return it->second;
+}
+
+// Splits the print options from the session's (file, --set, --auto).
+// Returns 0, or the exit status of a bad command line.
+int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
+  Args sessionArgs;
+  std::vector<std::string> words;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::string& a = args[i];
+    auto value = [&]() -> const std::string* { return i + 1 < args.size() ? &args[++i] : nullptr; };
+    if (a == "--paper") {
+      const std::string* v = value();
+      if (!v) return usage("--paper needs A4, A3 or Letter");
+      if (*v == "A4") p.paper = QPageSize::A4;
+      else if (*v == "A3") p.paper = QPageSize::A3;
+      else if (*v == "Letter") p.paper = QPageSize::Letter;
+      else return usage("--paper takes A4, A3 or Letter");
+    } else if (a == "--landscape") {
+      p.landscape = true;
+    } else if (a == "--station") {
+      const std::string* v = value();
+      if (!v) return usage("--station needs a station X in metres");
+      p.station = *v;
+    } else if (a == "--lang") {
+      const std::string* v = value();
+      if (!v || (*v != "fr" && *v != "en")) return usage("--lang takes fr or en");
+      p.langue = *v == "fr" ? 0 : 1;
+    } else if (a == "--set") {
+      sessionArgs.push_back(a);
+      if (const std::string* v = value()) sessionArgs.push_back(*v);
+    } else if (a.rfind("--", 0) == 0) {
+      sessionArgs.push_back(a);
+    } else {
+      words.push_back(a);
+    }
+  }
+  if (words.size() != 3) return usage("a hull file, a kind and a PDF file are needed");
+  const auto entry = kindEntry(words[1]);
+  if (!entry) return usage(("no kind of print '" + words[1] + "'").c_str());
+  p.entry = *entry;
+  p.out = words[2];
+  sessionArgs.insert(sessionArgs.begin(), words[0]);
+  return parseSessionArgs(sessionArgs, true, session) ? 0 : 2;
+}
+
+// Qt's notes about the offscreen platform are no concern of the command's
+// user; its errors still reach stderr.
+void quietQt(QtMsgType type, const QMessageLogContext&, const QString& msg) {
+  if (type == QtCriticalMsg || type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(msg));
+}
+
+// The fonts need a GUI application; without a display the offscreen
+// platform serves.
+std::unique_ptr<QGuiApplication> guiApplication() {
+  if (QCoreApplication::instance()) return nullptr;
+  qInstallMessageHandler(quietQt);
+  if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  static int argc = 1;
+  static char name[] = "tolmar-cli";
+  static char* argv[] = {name, nullptr};
+  return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+// The board's steps of a print entry: Draw station first for the station
+// sheet, then the document.
+void runEntry(PrintJob& job, board::BoardState& b, const board::Actions& steps) {
+  for (const board::Action& a : steps) {
+    if (a.what != board::Do::Run) continue;
+    switch (a.control) {
+      case BoardControl::DessCouple: board::drawStationState(b, job.h); break;
+      case BoardControl::fmenu_P_Data: fmenu_P_Data(job); break;
+      case BoardControl::fmenu_P_Dessin: fmenu_P_Dessin(job, b.stepIndex); break;
+      case BoardControl::fmenu_P_Develop: fmenu_P_Develop(job, b.stepIndex); break;
+      case BoardControl::fmenu_P_Station: fmenu_P_Station(job); break;
+      case BoardControl::fmenu_P_Tout: fmenu_P_Tout(job, b.stepIndex); break;
+      default: break;
+    }
+  }
+}
+
+int run(const Args& args) {
+  PrintArgs p;
+  SessionArgs session;
+  if (const int status = parseArgs(args, p, session)) return status;
+
+  PipelineOptions o;
+  o.hullFile = session.file;
+  o.sets = session.sets;
+  o.autoPlanking = session.autoPlanking;
+  auto h = std::make_unique<HullStore>();
+  PipelineResult r = prepareHull(*h, o);
+  printWarnings(r);
+  if (r.status != 0) {
+    std::fprintf(stderr, "tolmar-cli print: %s\n", r.error.c_str());
+    return r.status;
+  }
+  if (p.langue) h->langue = static_cast<i16>(*p.langue);
+  if (p.station) r.board.text1 = *p.station;
+  const board::Actions steps = board::press(r.board, *h, p.entry);
+  if (steps.empty()) {
+    std::fprintf(stderr, "tolmar-cli print: %s is disabled on the board\n",
+                 std::string(board::controlName(p.entry)).c_str());
+    return 2;
+  }
+
+  const auto app = guiApplication();
+  // Written beside the target and renamed at the end, so that a failed
+  // print leaves an earlier file of that name as it was.
+  QSaveFile file(QString::fromStdString(p.out));
+  if (!file.open(QIODevice::WriteOnly)) {
+    std::fprintf(stderr, "tolmar-cli print: cannot write %s: %s\n", p.out.c_str(),
+                 qPrintable(file.errorString()));
+    return 1;
+  }
+  {
+    QPdfWriter writer(&file);
+    writer.setTitle(QString::fromStdString(h->hullName));
+    writer.setCreator(QStringLiteral("tolmar-cli"));
+    writer.setPageSize(QPageSize(p.paper));
+    writer.setPageOrientation(p.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    qtdraw::PagedSurface surface(writer);
+    if (!surface.active()) {
+      file.cancelWriting();
+      std::fprintf(stderr, "tolmar-cli print: cannot start a PDF document in %s\n", p.out.c_str());
+      return 1;
+    }
+    PrintHost host;
+    PrintJob job{surface, *h, host};
+    runEntry(job, r.board, steps);
+  }
+  if (!file.commit()) {
+    std::fprintf(stderr, "tolmar-cli print: cannot write %s: %s\n", p.out.c_str(),
+                 qPrintable(file.errorString()));
+    return 1;
+  }
+  return 0;
+}
+
+Register reg({"print", kUsage,
+              "  Opens a hull file and passes its screens as `dump` does, then runs one entry\n"
+              "  of the print menu into a PDF: data (the data sheet), drawing (profile, plan\n"
+              "  and sections), develop (the plates), station (the sheet of the station\n"
+              "  nearest to --station X, else the board's), all (every sheet and table).\n"
+              "  A4 portrait unless told; texts in English unless --lang fr.  Status 1: a\n"
+              "  file cannot be read or written; 2: a screen does not pass or the command\n"
+              "  line is wrong.",
+              &run});
+
+}  // namespace
+}  // namespace tolmar::cli
+
+#endif  // TOLMAR_HAVE_QTDRAW
