@@ -55,7 +55,7 @@ ChinePoint chinePoint(const HullStore& h, int line, double x) {
   ChinePoint pt{firstChineY(h, x), firstChineZ(h, x)};
   const int top = line > kMaxLine ? kMaxLine : line;
   for (int n = 2; n <= top; ++n) {
-    const double k = tanDeg(90 - h.plankAngle(n - 1));
+    const double k = tanDegWhole(90 - h.plankAngle(n - 1));
     const double c = h.planeC(n);
     const double den = 1 - k * c;
     if (den == 0) continue;
@@ -74,7 +74,7 @@ double chineZ(const HullStore& h, int line, double x) { return chinePoint(h, lin
 
 bool chineDegenerate(const HullStore& h, int line) {
   if (line < 2 || line > kMaxLine) return false;
-  return 1 - tanDeg(90 - h.plankAngle(line - 1)) * h.planeC(line) == 0;
+  return 1 - tanDegWhole(90 - h.plankAngle(line - 1)) * h.planeC(line) == 0;
 }
 
 double bottomZ(const HullStore& h, double x, double y) {

@@ -1,7 +1,9 @@
 // Plane geometry primitives.  Each function keeps its own digits of pi.
 #include "hull/geometrie.h"
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace tolmar {
 
@@ -11,6 +13,17 @@ constexpr double kPi11 = 3.14159265359;     // atnDeg, polarAngle
 }  // namespace
 
 double tanDeg(double a) { return std::tan(a * kPi14 / 180); }
+
+double tanDegWhole(int a) {
+  constexpr int kSpan = 720;
+  static const auto table = [] {
+    std::array<double, 2 * kSpan + 1> t{};
+    for (int i = -kSpan; i <= kSpan; ++i) t[static_cast<std::size_t>(i + kSpan)] = tanDeg(i);
+    return t;
+  }();
+  if (a < -kSpan || a > kSpan) return tanDeg(a);
+  return table[static_cast<std::size_t>(a + kSpan)];
+}
 
 double atnDeg(double x) { return std::atan(x) * 180 / kPi11; }
 

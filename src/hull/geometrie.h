@@ -8,6 +8,10 @@ namespace tolmar {
 
 double tanDeg(double a);  // tan(a degrees), pi = 3.14159265358979
 double atnDeg(double x);  // arctan(x) in degrees, pi = 3.14159265359
+// tanDeg of a whole number of degrees, bit for bit the same value, taken
+// from a table for |a| <= 720: the chine equations ask it at every point of
+// every line.
+double tanDegWhole(int a);
 
 // Meeting point of the line through 1, 2 and the line through 3, 4.
 // Parallel or doubly vertical lines give the mean of the points.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
 
 #include "hull/geometrie.h"
 
@@ -18,6 +19,14 @@ TEST(TanDeg, ExactZeroAndFiniteAtRightAngle) {
   EXPECT_TRUE(std::isfinite(tanDeg(90)));
   EXPECT_GT(tanDeg(90), 1e13);
   EXPECT_TRUE(std::isfinite(tanDeg(-90)));
+}
+
+TEST(TanDeg, TableOfWholeDegreesIsBitForBitTheFunction) {
+  for (int a = -800; a <= 800; ++a) {
+    const double table = tanDegWhole(a), direct = tanDeg(a);
+    ASSERT_EQ(std::memcmp(&table, &direct, sizeof table), 0) << a;
+  }
+  EXPECT_EQ(tanDegWhole(32767), tanDeg(32767));
 }
 
 TEST(AtnDeg, UsesElevenDigitPi) {
