@@ -78,21 +78,30 @@ inline int count(const Page& page, DrawOp op) {
 }
 
 // The texts of a page on a grid of the recording surface's characters:
-// 100 units a column, 200 a row.  Rows run from the top of the page.
+// 100 units a column, 200 a row, rows from the top of the page.  A column
+// holds one character, whatever its length in UTF-8.
 inline std::string textGrid(const Page& page) {
-  std::map<long, std::string> rows;
+  std::map<long, std::vector<std::string>> rows;
   long last = 0;
   for (const DrawCall& c : page) {
     if (c.op != DrawOp::Print) continue;
     const long row = std::lround(c.y1 / RecordingSurface::kTextHeight);
-    const auto col = static_cast<std::size_t>(std::lround(c.x1 / RecordingSurface::kCharWidth));
-    std::string& line = rows[row];
-    if (line.size() < col) line.resize(col, ' ');
-    line.replace(col, std::min(c.text.size(), line.size() - col), c.text);
+    auto col = static_cast<std::size_t>(std::lround(c.x1 / RecordingSurface::kCharWidth));
+    std::vector<std::string>& line = rows[row];
+    for (std::size_t i = 0; i < c.text.size(); ++col) {
+      std::size_t len = 1;
+      while (i + len < c.text.size() && (static_cast<unsigned char>(c.text[i + len]) & 0xC0) == 0x80) ++len;
+      if (line.size() <= col) line.resize(col + 1, " ");
+      line[col] = c.text.substr(i, len);
+      i += len;
+    }
     last = std::max(last, row);
   }
   std::string out;
-  for (long r = 0; r <= last; ++r) out += rows[r] + "\n";
+  for (long r = 0; r <= last; ++r) {
+    for (const std::string& ch : rows[r]) out += ch;
+    out += "\n";
+  }
   return out;
 }
 
