@@ -1,0 +1,128 @@
+#include "windows/mass1_window.h"
+
+#include <QCloseEvent>
+#include <QFocusEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "windows/field_widgets.h"
+
+namespace tolmar::gui {
+
+namespace {
+
+// The groups of rows as the screen stacks them.
+constexpr int kGroupRows[4][6] = {
+    {1, 2, 3, 4, -1, -1}, {5, 6, 7, 8, -1, -1}, {21, 22, 23, 24, -1, -1}, {13, 14, 15, 16, 17, 18}};
+
+}  // namespace
+
+Mass1Window::Mass1Window(analysis::Mass1& model, QWidget* parent) : QWidget(parent, Qt::Window), model_(model) {
+  setObjectName("mass1");
+  auto* top = new QVBoxLayout(this);
+  label1_ = new QLabel(this);
+  top->addWidget(label1_);
+
+  auto* heads = new QGridLayout;
+  for (int c = 0; c < 4; ++c) {
+    label2_[c] = new QLabel(this);
+    label2_[c]->setWordWrap(true);
+    label2_[c]->setAlignment(Qt::AlignCenter);
+    heads->addWidget(label2_[c], 0, c + 1);
+  }
+  heads->setColumnMinimumWidth(0, 140);
+  top->addLayout(heads);
+
+  auto addRow = [this](QGridLayout* grid, int line, int r) {
+    label3_[r] = new QLabel(this);
+    label3_[r]->setMinimumWidth(130);
+    grid->addWidget(label3_[r], line, 0);
+    for (int c = 0; c < 4; ++c) {
+      if (!modelText(c + 1, r).visible) continue;
+      auto* e = new QLineEdit(this);
+      e->setObjectName(QString("Text%1(%2)").arg(c + 1).arg(r));
+      e->setMaximumWidth(110);
+      e->setReadOnly(modelText(c + 1, r).backColor == analysis::kResultPink);
+      e->installEventFilter(this);
+      connect(e, &QLineEdit::returnPressed, this, [this] {
+        if (onEnter) onEnter();
+      });
+      text_[c][r] = e;
+      grid->addWidget(e, line, c + 1);
+    }
+  };
+  for (int g = 0; g < 4; ++g) {
+    frame_[g] = new QGroupBox(this);
+    auto* grid = new QGridLayout(frame_[g]);
+    int line = 0;
+    for (int r : kGroupRows[g])
+      if (r >= 0) addRow(grid, line++, r);
+    top->addWidget(frame_[g]);
+  }
+  auto* totals = new QGridLayout;
+  addRow(totals, 0, 0);
+  top->addLayout(totals);
+
+  calcul1_ = new QPushButton(this);
+  calcul1_->setObjectName("Calcul1");
+  calcul1_->setAutoDefault(false);
+  top->addWidget(calcul1_);
+  connect(calcul1_, &QPushButton::clicked, this, [this] {
+    if (onCalcul) onCalcul();
+  });
+}
+
+Field& Mass1Window::modelText(int column, int row) {
+  switch (column) {
+    case 1: return model_.Text1(row);
+    case 2: return model_.Text2(row);
+    case 3: return model_.Text3(row);
+    default: return model_.Text4(row);
+  }
+}
+
+QLineEdit* Mass1Window::text(int column, int row) {
+  if (column < 1 || column > 4 || row < 0 || row > analysis::kLastMassRow) return nullptr;
+  return text_[column - 1][row];
+}
+
+void Mass1Window::showModel() {
+  setWindowTitle(qtText(model_.title.caption));
+  label1_->setText(qtText(model_.Label1.caption));
+  for (int c = 0; c < 4; ++c) showCaption(label2_[c], model_.Label2(c + 1));
+  const Field* frames[4] = {&model_.Frame1, &model_.Frame2, &model_.Frame3, &model_.Frame4};
+  for (int g = 0; g < 4; ++g) frame_[g]->setTitle(qtText(frames[g]->caption));
+  for (int r = 0; r <= analysis::kLastMassRow; ++r) {
+    if (label3_[r]) showCaption(label3_[r], model_.Label3(r));
+    for (int c = 0; c < 4; ++c)
+      if (text_[c][r]) showField(text_[c][r], modelText(c + 1, r));
+  }
+  showCaption(calcul1_, model_.Calcul1);
+}
+
+void Mass1Window::takeTexts() {
+  for (int r = 0; r <= analysis::kLastMassRow; ++r)
+    for (int c = 0; c < 4; ++c)
+      if (text_[c][r]) takeText(modelText(c + 1, r), text_[c][r]);
+}
+
+bool Mass1Window::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusOut) {
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    // Leaving for another window is the screen's deactivation, not a field's.
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && onFieldLeft)
+      onFieldLeft();
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void Mass1Window::closeEvent(QCloseEvent* event) {
+  if (onClose && isVisible()) onClose();
+  event->accept();
+}
+
+}  // namespace tolmar::gui

@@ -1,0 +1,50 @@
+// The print menu of the board: each entry one document on the program's
+// printer, or in a PDF file when there is none; and the printer dialog.
+#include "printing/print_host.h"
+#include "printing/print_job.h"
+#include "printing/print_menu.h"
+#include "windows/command_steps.h"
+#include "windows/file_dialog.h"
+#include "windows/printer_dialog.h"
+
+namespace tolmar::gui {
+
+namespace {
+
+// The date of the system and the busy pointer of the board.
+class BoardPrintHost : public PrintHost {
+ public:
+  explicit BoardPrintHost(CmDialog1& files) : files_(files) {}
+  void setBusy(bool busy) override { files_.setBusy(busy); }
+
+ private:
+  CmDialog1& files_;
+};
+
+}  // namespace
+
+bool printEntry(BoardWindows& w, HullStore& h, board::BoardState& b, board::BoardControl c) {
+  using C = board::BoardControl;
+  if (c == C::fmenu_PSetup) {
+    w.printers().setup();
+    return true;
+  }
+  BoardPrintHost host(w.files());
+  const int step = b.stepIndex;
+  std::function<void(PrintJob&)> pages;
+  switch (c) {
+    case C::fmenu_P_Data: pages = [](PrintJob& job) { fmenu_P_Data(job); }; break;
+    case C::fmenu_P_Dessin: pages = [step](PrintJob& job) { fmenu_P_Dessin(job, step); }; break;
+    case C::fmenu_P_Develop: pages = [step](PrintJob& job) { fmenu_P_Develop(job, step); }; break;
+    case C::fmenu_P_Station: pages = [](PrintJob& job) { fmenu_P_Station(job); }; break;
+    case C::fmenu_P_Tout: pages = [step](PrintJob& job) { fmenu_P_Tout(job, step); }; break;
+    default: return false;
+  }
+  printDocument(w.files(), w.printers(), h, [&](DrawingSurface& s) {
+    PrintJob job{s, h, host};
+    pages(job);
+  });
+  return true;
+}
+
+}  // namespace tolmar::gui

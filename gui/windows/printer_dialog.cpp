@@ -1,0 +1,121 @@
+#include "windows/printer_dialog.h"
+
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QSaveFile>
+#include <exception>
+
+#include "qtdraw/paged_surface.h"
+#include "windows/file_dialog.h"
+
+namespace tolmar::gui {
+
+namespace {
+
+// Busy pointer for the life of a scope, through the one dialog object.
+class Busy {
+ public:
+  explicit Busy(CmDialog1& files) : files_(files) { files_.setBusy(true); }
+  ~Busy() { files_.setBusy(false); }
+  Busy(const Busy&) = delete;
+  Busy& operator=(const Busy&) = delete;
+
+ private:
+  CmDialog1& files_;
+};
+
+// Runs the pages; false with the reason when `draw` threw.
+bool drawPages(DrawingSurface& s, const std::function<void(DrawingSurface&)>& draw, std::string& why) {
+  try {
+    draw(s);
+    return true;
+  } catch (const std::exception& e) {
+    why = e.what();
+  } catch (...) {
+    why = "Unknown error";
+  }
+  return false;
+}
+
+PrintOutcome fail(CmDialog1& files, const std::string& why) {
+  files.showError(kPrintErrorTitle, why);
+  return PrintOutcome::failed;
+}
+
+PrintOutcome printToPdf(CmDialog1& files, QPrinter& printer, const QString& path,
+                        const std::function<void(DrawingSurface&)>& draw) {
+  std::string why;
+  {
+    Busy busy(files);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) return fail(files, file.errorString().toStdString());
+    {
+      QPdfWriter writer(&file);
+      writer.setCreator("Tolmar2008");
+      writer.setPageLayout(printer.pageLayout());
+      qtdraw::PagedSurface surface(writer);
+      if (!surface.active()) return fail(files, "The PDF file cannot be started");
+      if (!drawPages(surface, draw, why)) return fail(files, why);
+      if (surface.active()) surface.EndDoc();
+    }
+    // The file replaces its target only when every byte went out.
+    if (file.error() != QFileDevice::NoError) return fail(files, file.errorString().toStdString());
+    if (!file.commit()) return fail(files, file.errorString().toStdString());
+  }
+  return PrintOutcome::printed;
+}
+
+PrintOutcome printToPrinter(CmDialog1& files, QPrinter& printer,
+                            const std::function<void(DrawingSurface&)>& draw) {
+  std::string why;
+  Busy busy(files);
+  qtdraw::PagedSurface surface(printer);
+  if (!surface.active()) return fail(files, "The printer " + printer.printerName().toStdString() + " is not ready");
+  if (!drawPages(surface, draw, why)) return fail(files, why);
+  if (surface.active()) surface.EndDoc();
+  if (printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted)
+    return fail(files, "The printer " + printer.printerName().toStdString() + " reported an error");
+  return PrintOutcome::printed;
+}
+
+}  // namespace
+
+CmDialog2::CmDialog2(QWidget* parent) : parent_(parent) {}
+
+CmDialog2::~CmDialog2() = default;
+
+QPrinter& CmDialog2::printer() {
+  if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  return *printer_;
+}
+
+bool CmDialog2::toPdf() const {
+  if (pdfOnly || QPrinterInfo::availablePrinters().isEmpty()) return true;
+  return printer_ && printer_->outputFormat() == QPrinter::PdfFormat;
+}
+
+bool CmDialog2::setup() {
+  if (unattended_) return false;
+  QPrintDialog dialog(&printer(), parent_);
+  return dialog.exec() == QDialog::Accepted;
+}
+
+PrintOutcome printDocument(CmDialog1& files, CmDialog2& printers, const HullStore& h,
+                           const std::function<void(DrawingSurface&)>& draw) {
+  QPrinter& printer = printers.printer();
+  if (!printers.toPdf()) return printToPrinter(files, printer, draw);
+
+  // A file named in the printer dialog is used as it is; otherwise asked.
+  QString path;
+  if (!printers.pdfOnly && printer.outputFormat() == QPrinter::PdfFormat) path = printer.outputFileName();
+  if (path.isEmpty()) {
+    const auto choice = files.askSaveFile({std::string(kPdfTitle), kPdfFilter, h.hullName + ".PDF", std::nullopt});
+    if (!choice) return PrintOutcome::cancelled;
+    path = QString::fromStdString(choice->path);
+  }
+  return printToPdf(files, printer, path, draw);
+}
+
+}  // namespace tolmar::gui
