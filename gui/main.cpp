@@ -1,10 +1,14 @@
 #include <QApplication>
 
-#include "windows/menu2.h"
+#include "windows/session.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
-  tolmar::gui::Menu2 start;
-  start.show();
+  // The program ends by Terminate or the closing of menu2 only; the board
+  // may be the last window shown while menu2 is hidden.
+  QApplication::setQuitOnLastWindowClosed(false);
+  tolmar::gui::Session session;
+  QObject::connect(&session, &tolmar::gui::Session::programEnded, &app, &QApplication::quit, Qt::QueuedConnection);
+  session.start();
   return app.exec();
 }

@@ -1,0 +1,238 @@
+#include "windows/dessin_window.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QFocusEvent>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+
+#include "board/views.h"
+#include "windows/busy_cursor.h"
+#include "windows/field_widgets.h"
+#include "windows/plan_widget.h"
+#include "windows/session.h"
+#include "windows/twips.h"
+
+namespace tolmar::gui {
+
+using board::BoardControl;
+using C = board::BoardControl;
+
+namespace {
+
+constexpr BoardControl kButtons[] = {C::Command1_0, C::Command1_1, C::Command1_2, C::DessCouple,
+                                     C::Developer,  C::dessine,    C::Cancel};
+
+QString text(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+QString captionOf(BoardControl c, int langue) { return text(board::caption(c, langue)); }
+QString nameOf(BoardControl c) { return text(board::controlName(c)); }
+
+}  // namespace
+
+DessinWindow::DessinWindow(Session& s) : QMainWindow(nullptr), s_(s), b_(board::loadBoard(s.store())) {
+  setObjectName("dessin");
+  captionLangue_ = s.store().langue;
+  buildControls();
+  buildMenu();
+  const Twips t(*this);
+  const QSizeF display = displayTwips(*this);
+  layout_ = board::loadLayout(display.width(), display.height());
+  setGeometry(t.rect(layout_.window));
+  applyLayout();
+  syncFromModel();
+}
+
+void DessinWindow::buildControls() {
+  auto* central = new QWidget(this);
+  setCentralWidget(central);
+  plan_ = new PlanWidget(s_.store(), b_, central);
+  plan_->onDoubleClick = [this] { dessineAction([this] { plan_->mouse().doubleClick(); }); };
+  widgets_[board::index(C::Plan1)] = plan_;
+  for (BoardControl c : kButtons) {
+    auto* b = new QPushButton(central);
+    b->setObjectName(nameOf(c));
+    b->setAutoDefault(false);
+    connect(b, &QPushButton::clicked, this, [this, c] { press(c); });
+    widgets_[board::index(c)] = b;
+  }
+  button(C::dessine)->installEventFilter(this);
+  label1_ = new QLabel(central);
+  label2_ = new QLabel(central);
+  text1_ = new QLineEdit(central);
+  text2_ = new QLineEdit(central);
+  label1_->setObjectName("Label1");
+  label2_->setObjectName("Label2");
+  text1_->setObjectName("Text1");
+  text2_->setObjectName("Text2");
+  widgets_[board::index(C::Label1)] = label1_;
+  widgets_[board::index(C::Label2)] = label2_;
+  widgets_[board::index(C::Text1)] = text1_;
+  widgets_[board::index(C::Text2)] = text2_;
+  connect(text1_, &QLineEdit::textEdited, this, [this](const QString& t) { b_.text1 = t.toStdString(); });
+  connect(text2_, &QLineEdit::textEdited, this, [this](const QString& t) { b_.text2 = t.toStdString(); });
+  connect(text2_, &QLineEdit::returnPressed, this, &DessinWindow::text2Enter);
+}
+
+void DessinWindow::buildMenu() {
+  QMenu* top = nullptr;
+  QMenu* sub = nullptr;
+  const auto entries = board::boardMenu();
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const board::MenuEntry& e = entries[i];
+    const bool opensSubMenu = e.level == 1 && i + 1 < entries.size() && entries[i + 1].level == 2;
+    QAction* a = nullptr;
+    if (e.level == 0 && e.actsOnClick) {
+      a = menuBar()->addAction(QString());
+    } else if (e.level == 0) {
+      top = menuBar()->addMenu(QString());
+      a = top->menuAction();
+    } else if (e.separator) {
+      a = top->addSeparator();
+    } else if (opensSubMenu) {
+      sub = top->addMenu(QString());
+      a = sub->menuAction();
+    } else {
+      a = (e.level == 2 ? sub : top)->addAction(QString());
+    }
+    a->setObjectName(nameOf(e.control));
+    if (!e.key.empty()) {
+      a->setShortcut(QKeySequence(text(e.key)));
+      a->setShortcutContext(Qt::WindowShortcut);
+    }
+    if (!e.separator && (e.actsOnClick || (e.level > 0 && !opensSubMenu))) {
+      const BoardControl c = e.control;
+      connect(a, &QAction::triggered, this, [this, c] { press(c); });
+    }
+    actions_[board::index(e.control)] = a;
+  }
+}
+
+QPushButton* DessinWindow::button(BoardControl c) const {
+  return qobject_cast<QPushButton*>(widgets_[board::index(c)]);
+}
+
+void DessinWindow::applyLayout() {
+  const Twips t(*this);
+  const board::BoardLayout& l = layout_;
+  place(plan_, t, l.plan1);
+  // A label is given at least the height of its text, from the same top.
+  auto placeLabel = [&](QLabel* w, const board::Rect& r) {
+    QRect g = t.rect(r);
+    g.setHeight(std::max(g.height(), w->fontMetrics().height()));
+    w->setGeometry(g);
+  };
+  placeLabel(label2_, l.label2);
+  place(text2_, t, l.text2);
+  for (int i = 0; i < 3; ++i) place(button(board::command1(i)), t, l.command1[i]);
+  placeLabel(label1_, l.label1);
+  place(text1_, t, l.text1);
+  place(button(C::DessCouple), t, l.dessCouple);
+  place(button(C::Cancel), t, l.cancel);
+  place(button(C::dessine), t, l.dessine);
+  place(button(C::Developer), t, l.developer);
+}
+
+void DessinWindow::syncFromModel() {
+  setWindowTitle(qtText(b_.title));
+  for (std::size_t i = 0; i < board::kBoardControlCount; ++i) {
+    const auto c = static_cast<BoardControl>(i);
+    if (QWidget* w = widgets_[i]) w->setEnabled(b_.isEnabled(c));
+    if (QAction* a = actions_[i]) {
+      a->setEnabled(b_.isEnabled(c));
+      if (!a->isSeparator()) a->setText(captionOf(c, captionLangue_));
+    }
+  }
+  for (BoardControl c : kButtons) button(c)->setText(captionOf(c, captionLangue_));
+  label1_->setText(captionOf(C::Label1, captionLangue_));
+  label2_->setText(captionOf(C::Label2, captionLangue_));
+  if (text1_->text() != qtText(b_.text1)) text1_->setText(qtText(b_.text1));
+  if (text2_->text() != qtText(b_.text2)) text2_->setText(qtText(b_.text2));
+  QPalette p = text2_->palette();
+  p.setColor(QPalette::Base, b_.text2Background == board::kScreenBackground ? palette().color(QPalette::Window)
+                                                                           : qtColor(b_.text2Background));
+  text2_->setPalette(p);
+}
+
+void DessinWindow::press(BoardControl c) { s_.perform(board::press(b_, s_.store(), c)); }
+
+void DessinWindow::focusControl(BoardControl c) {
+  if (c == C::dessine) {
+    // A disabled button cannot take the focus, so it does not redraw.
+    if (b_.isEnabled(C::dessine)) dessineAction();
+    return;
+  }
+  QWidget* w = widgets_[board::index(c)];
+  if (!w || !b_.isEnabled(c)) return;
+  syncFromModel();  // the control may have been enabled by the same event
+  w->setFocus(Qt::OtherFocusReason);
+}
+
+void DessinWindow::dessineAction(const std::function<void()>& draw) {
+  BusyCursor busy;
+  HullStore& h = s_.store();
+  board::drawingStarted(b_);
+  if (draw) {
+    draw();
+  } else {
+    dessine(plan_->surface(), h, b_.stepIndex);
+  }
+  board::drawingEnded(b_);
+  plan_->update();
+  s_.perform({board::afterRedraw(b_, h)});
+}
+
+BoardHooks DessinWindow::hooks() {
+  BoardHooks k;
+  k.refresh = [this] { syncFromModel(); };
+  k.perform = [this](const board::Actions& a) { s_.perform(a); };
+  k.picture = [this]() -> DrawingSurface* { return &plan_->surface(); };
+  k.pictureChanged = [this] { plan_->update(); };
+  return k;
+}
+
+void DessinWindow::clearPicture() {
+  plan_->surface().Cls();
+  plan_->update();
+}
+
+void DessinWindow::text2Enter() {
+  BusyCursor busy;
+  b_.text2 = text2_->text().toStdString();
+  s_.perform(board::text2Enter(b_, s_.store()));
+}
+
+bool DessinWindow::event(QEvent* e) {
+  if (e->type() == QEvent::WindowActivate) {
+    captionLangue_ = s_.store().langue;
+    board::activateBoard(b_, captionLangue_);
+    syncFromModel();
+  }
+  return QMainWindow::event(e);
+}
+
+bool DessinWindow::eventFilter(QObject* o, QEvent* e) {
+  // dessine taken by the keyboard redraws, as the end of a hull screen's
+  // focus does; a click redraws through the click itself.
+  if (o == button(C::dessine) && e->type() == QEvent::FocusIn) {
+    const Qt::FocusReason r = static_cast<QFocusEvent*>(e)->reason();
+    if (r == Qt::TabFocusReason || r == Qt::BacktabFocusReason) focusControl(C::dessine);
+  }
+  return QMainWindow::eventFilter(o, e);
+}
+
+void DessinWindow::resizeEvent(QResizeEvent* e) {
+  QMainWindow::resizeEvent(e);
+  const Twips t(*this);
+  if (board::resizeLayout(layout_, t.twipsX(width()), t.twipsY(height()))) applyLayout();
+}
+
+void DessinWindow::closeEvent(QCloseEvent* e) {
+  e->ignore();
+  s_.perform(board::closeBoard());
+}
+
+}  // namespace tolmar::gui

@@ -1,0 +1,186 @@
+#include "windows/session.h"
+
+#include <QApplication>
+#include <QWidget>
+
+#include "screens/menu2.h"
+#include "windows/bouchain1_window.h"
+#include "windows/bouchain2_window.h"
+#include "windows/bouchain3_window.h"
+#include "windows/busy_cursor.h"
+#include "windows/dessin_window.h"
+#include "windows/board_commands.h"
+#include "windows/menu2_window.h"
+#include "windows/twips.h"
+
+namespace tolmar::gui {
+
+using board::Action;
+using board::Actions;
+using board::BoardControl;
+using board::Do;
+using board::ScreenId;
+
+void DeleteLater::operator()(QObject* o) const {
+  if (o) o->deleteLater();
+}
+
+Session::Session() : beep([] { QApplication::beep(); }), h_(std::make_unique<HullStore>()) {}
+
+Session::~Session() {
+  // No event loop runs after this: the windows go at once.
+  delete bouchain3_.release();
+  delete bouchain2_.release();
+  delete bouchain1_.release();
+  delete dessin_.release();
+  delete menu2_.release();
+}
+
+void Session::start() {
+  BusyCursor busy;
+  Menu2Window& m = menu2();
+  const QSizeF display = displayTwips(m);
+  const Actions steps = screens::loadMenu2(m.model(), *h_, display.width(), display.height());
+  m.applyLayout();
+  perform(steps);
+}
+
+void Session::create() { perform(screens::createClick(dessin().state(), *h_)); }
+
+void Session::perform(const Actions& actions) {
+  ++depth_;
+  for (std::size_t i = 0; i < actions.size(); ++i) {
+    if (actions[i].what == Do::ShowModal && window(actions[i].screen, false) != nullptr) {
+      showModal(actions[i].screen, Actions(actions.begin() + static_cast<std::ptrdiff_t>(i) + 1, actions.end()));
+      break;
+    }
+    run(actions[i]);
+  }
+  --depth_;
+  if (depth_ > 0) return;
+  while (!due_.empty()) {
+    const Actions next = std::move(due_.front());
+    due_.erase(due_.begin());
+    perform(next);
+  }
+  syncWindows();
+}
+
+void Session::syncWindows() {
+  if (menu2_) menu2_->syncFromModel();
+  if (dessin_) dessin_->syncFromModel();
+  if (bouchain1_) bouchain1_->syncFromModel();
+  if (bouchain2_) bouchain2_->syncFromModel();
+  if (bouchain3_) bouchain3_->syncFromModel();
+}
+
+void Session::showModal(ScreenId s, Actions rest) {
+  HullScreenWindow* w = nullptr;
+  switch (s) {
+    case ScreenId::bouchain1: w = &bouchain1(); break;
+    case ScreenId::bouchain2: w = &bouchain2(); break;
+    case ScreenId::bouchain3: w = &bouchain3(); break;
+    default: return;
+  }
+  afterModal_[s] = std::move(rest);
+  w->showModalScreen();
+}
+
+void Session::run(const Action& a) {
+  switch (a.what) {
+    case Do::Load: window(a.screen, true); break;
+    case Do::Show:
+      if (QWidget* w = window(a.screen, true)) {
+        w->show();
+        w->raise();
+        w->activateWindow();
+      } else {
+        showBoardScreen(&dessin(), *h_, dessin().state(), a.screen, dessin().hooks());
+      }
+      break;
+    case Do::ShowModal:
+      // overlap1: modal in its own right, it returns when the screen ends.
+      showBoardScreen(&dessin(), *h_, dessin().state(), a.screen, dessin().hooks());
+      break;
+    case Do::Hide: {
+      if (QWidget* w = window(a.screen, false)) w->hide();
+      const auto waiting = afterModal_.find(a.screen);
+      if (waiting != afterModal_.end()) {
+        due_.push_back(std::move(waiting->second));
+        afterModal_.erase(waiting);
+      }
+      break;
+    }
+    case Do::Unload:
+      if (a.screen == ScreenId::dessin && dessin_) {
+        dessin_->hide();
+        dessin_.reset();
+      }
+      break;
+    case Do::Focus: dessin().focusControl(a.control); break;
+    case Do::AfterModal: board::afterModal(dessin().state(), a.control); break;
+    case Do::ClearPicture: dessin().clearPicture(); break;
+    case Do::Refresh:
+      if (QWidget* w = window(a.screen, false)) w->update();
+      break;
+    case Do::Beep:
+      if (beep) beep();
+      break;
+    case Do::SaveHullFile: runOnBoard(BoardControl::fmenu_S_Data); break;
+    case Do::OpenHullFile: runOnBoard(BoardControl::fmenu_Open); break;
+    case Do::Run:
+      if (a.control == BoardControl::dessine) {
+        dessin().dessineAction();
+      } else {
+        runOnBoard(a.control);
+      }
+      break;
+    case Do::EndProgram:
+      ended_ = true;
+      emit programEnded();
+      break;
+  }
+}
+
+QWidget* Session::window(ScreenId s, bool load) {
+  switch (s) {
+    case ScreenId::menu2: return load ? &menu2() : menu2_.get();
+    case ScreenId::dessin: return load ? &dessin() : dessin_.get();
+    case ScreenId::bouchain1: return load ? &bouchain1() : bouchain1_.get();
+    case ScreenId::bouchain2: return load ? &bouchain2() : bouchain2_.get();
+    case ScreenId::bouchain3: return load ? &bouchain3() : bouchain3_.get();
+    default: return nullptr;  // overlap1 and the analysis screens live with the board's commands
+  }
+}
+
+Menu2Window& Session::menu2() {
+  if (!menu2_) menu2_.reset(new Menu2Window(*this));
+  return *menu2_;
+}
+
+DessinWindow& Session::dessin() {
+  if (!dessin_) dessin_.reset(new DessinWindow(*this));
+  return *dessin_;
+}
+
+Bouchain1Window& Session::bouchain1() {
+  if (!bouchain1_) bouchain1_.reset(new Bouchain1Window(*this));
+  return *bouchain1_;
+}
+
+Bouchain2Window& Session::bouchain2() {
+  if (!bouchain2_) bouchain2_.reset(new Bouchain2Window(*this));
+  return *bouchain2_;
+}
+
+Bouchain3Window& Session::bouchain3() {
+  if (!bouchain3_) bouchain3_.reset(new Bouchain3Window(*this));
+  return *bouchain3_;
+}
+
+void Session::runOnBoard(BoardControl c) {
+  DessinWindow& d = dessin();
+  runBoardCommand(&d, *h_, d.state(), c, d.hooks());
+}
+
+}  // namespace tolmar::gui
