@@ -62,6 +62,7 @@ QString CmDialog1::resolveFolder(const std::string& folder) {
 void CmDialog1::clearRecords() {
   asked_.clear();
   messages_.clear();
+  answers_.clear();
 }
 
 std::optional<SaveChoice> CmDialog1::askSaveFile(const SaveRequest& request) {

@@ -79,7 +79,8 @@ class CmDialog1 : public ExportHost {
   void answerWith(std::optional<std::string> path) { answers_.push_back(std::move(path)); }
   const std::vector<AskedDialog>& asked() const { return asked_; }
   const std::vector<ShownMessage>& messages() const { return messages_; }
-  void clearRecords();
+  std::size_t answersLeft() const { return answers_.size(); }
+  void clearRecords();  // the dialogs asked, the messages and the answers left
 
   // The folder an initial folder given by name stands for: a relative name
   // lies in the home folder.  Exposed for tests.
