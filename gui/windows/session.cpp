@@ -21,6 +21,14 @@ using board::BoardControl;
 using board::Do;
 using board::ScreenId;
 
+namespace {
+
+bool isHullScreen(ScreenId s) {
+  return s == ScreenId::bouchain1 || s == ScreenId::bouchain2 || s == ScreenId::bouchain3;
+}
+
+}  // namespace
+
 void DeleteLater::operator()(QObject* o) const {
   if (o) o->deleteLater();
 }
@@ -50,7 +58,7 @@ void Session::create() { perform(screens::createClick(dessin().state(), *h_)); }
 void Session::perform(const Actions& actions) {
   ++depth_;
   for (std::size_t i = 0; i < actions.size(); ++i) {
-    if (actions[i].what == Do::ShowModal && window(actions[i].screen, false) != nullptr) {
+    if (actions[i].what == Do::ShowModal && isHullScreen(actions[i].screen)) {
       showModal(actions[i].screen, Actions(actions.begin() + static_cast<std::ptrdiff_t>(i) + 1, actions.end()));
       break;
     }
