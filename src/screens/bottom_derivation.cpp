@@ -1,5 +1,7 @@
 #include "screens/bottom_derivation.h"
 
+#include <cmath>
+
 #include "hull/chine_equations.h"
 #include "hull/geometrie.h"
 
@@ -56,6 +58,15 @@ void fitFirstChineEnds(HullStore& h) {
     z = chineZ(h, 1, x);
   }
   h.xAft(1) = x;
+}
+
+ChineEndsSettled chineEndsSettled(const HullStore& h) {
+  const double length = std::abs(h.xFwd(0));
+  const double aft = h.xAft(0) + tanDeg(h.transomAngle) * (chineZ(h, 1, h.xAft(1)) - h.zAft(0));
+  const double fwd = h.xFwd(0) + tanDeg(h.bowAngle) * (chineZ(h, 1, h.xFwd(1)) - h.zFwd(0));
+  const double tolAft = 0.01 * (length + std::abs(h.xAft(1) - h.xAft(0)));
+  const double tolFwd = 0.01 * (length + std::abs(h.xFwd(1) - h.xFwd(0)));
+  return {std::abs(aft - h.xAft(1)) <= tolAft, std::abs(fwd - h.xFwd(1)) <= tolFwd};
 }
 
 }  // namespace tolmar

@@ -24,4 +24,15 @@ void fitFirstChinePlane(HullStore& h);
 // plane loses one degree of bowAngle at a time.
 void fitFirstChineEnds(HullStore& h);
 
+// Whether the ten passes of fitFirstChineEnds found where the chine meets
+// the transom (aft) and the stem (forward): one more pass may not move the
+// end by more than a hundredth of the length plus the end's own run.  A steep transom over a
+// strongly shaped chine makes the passes run away (ends hundreds of metres
+// off); the screen refuses such a hull instead of drawing it.
+struct ChineEndsSettled {
+  bool aft = true, fwd = true;
+};
+ChineEndsSettled chineEndsSettled(const HullStore& h);
+
+
 }  // namespace tolmar

@@ -240,6 +240,21 @@ bool Bouchain1::validerBottom(HullStore& h) {
     for (int i : {0, 1, 2, 7}) log.refused(Text2(i));
     return false;
   }
+  // The chine that never meets its transom or stem plane: the fields that
+  // shape that end turn orange, and the hull stays as it was.
+  const ChineEndsSettled settled = chineEndsSettled(h);
+  if (!settled.aft || !settled.fwd) {
+    backup.restore(h);
+    if (!settled.aft) {
+      for (int i : {1, 2, 6}) log.refused(Text2(i));
+      log.refused(Text1(6));
+    }
+    if (!settled.fwd) {
+      for (int i : {0, 5, 7}) log.refused(Text2(i));
+      log.refused(Text1(5));
+    }
+    return false;
+  }
   if (h.bowAngle != typedBow) log.changed(Text2(5), h.bowAngle);
   return true;
 }

@@ -176,6 +176,10 @@ TEST(Bouchain1, MaximumBeamBoundsPassOnTheSecondPressAtAnyLength) {
       o.s.Text1(1).text = plainText(factor * len);
       o.s.Text1(2).text = plainText(0.15 * len);
       o.s.Text1(4).text = plainText(0.1 * len);
+      // Heights to the hull's scale: default heights on an 11 cm hull make
+      // a chine that never meets its transom, which the screen refuses.
+      o.s.Text2(0).text = plainText(0.1 * len / 6);
+      o.s.Text2(1).text = plainText(0.15 * len / 6);
       const bool first = o.s.validerBottom(o.h);
       EXPECT_EQ(first, factor == 0.2 || factor == 0.7) << len << " " << factor;
       EXPECT_TRUE(o.s.validerBottom(o.h)) << len << " " << factor;
@@ -279,13 +283,39 @@ TEST(Bouchain1, AnyTextInAnyField) {
         });
         EXPECT_TRUE(storeFinite(o.h)) << column << " " << i << " " << typed;
         const bool lengthRefused = column == 1 && i == 0 && !(o.h.xFwd(0) > 0.1);
-        if (!lengthRefused) {
+        // A transom height or aft shape far out of scale makes a chine that
+        // never meets the transom: refused, and the field says so.
+        const bool aftEndRefused = column == 2 && (i == 1 || i == 2) && f.backColor == kOrange;
+        if (!lengthRefused && !aftEndRefused) {
           EXPECT_TRUE(second) << column << " " << i << " '" << typed << "'";
         }
         EXPECT_EQ(o.s.validerBottom(o.h), second);
       }
     }
   }
+}
+
+// A steep transom over a strongly S-shaped, high-powered chine: the ten
+// passes that find the chine's aft end run away (hundreds of metres aft of
+// a 10 m hull).  The screen refuses it in orange and keeps the store.
+TEST(Bouchain1, ChineThatNeverMeetsItsTransomIsRefused) {
+  Opened o;
+  const HullStore before = o.h;
+  o.s.typeText1(0, "9.82");
+  o.s.typeText1(6, "4.99");
+  o.s.Text2(2).text = "-10";
+  o.s.Text2(6).text = "70";
+  EXPECT_FALSE(o.s.validerBottom(o.h));
+  EXPECT_FALSE(o.s.validerBottom(o.h));
+  for (int i : {1, 2, 6}) EXPECT_EQ(o.s.Text2(i).backColor, kOrange) << i;
+  EXPECT_EQ(o.s.Text1(6).backColor, kOrange);
+  EXPECT_EQ(o.h.xAft(1), before.xAft(1));
+  EXPECT_EQ(o.h.lineX, before.lineX);
+  // A milder transom finds its end and passes.
+  o.s.Text2(6).text = "46";
+  EXPECT_TRUE(o.s.validerBottom(o.h));
+  EXPECT_GT(o.h.xAft(1), -1.0);
+  EXPECT_EQ(o.s.Text2(6).backColor, kWhite);
 }
 
 TEST(Bouchain1, AllFieldsAtOnce) {
