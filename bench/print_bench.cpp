@@ -12,8 +12,8 @@ namespace {
 void BM_PrintAllSheets21Lines(benchmark::State& state) {
   auto h = tolmar::fixture::manyLineHull();
   tolmar::RecordingSurface s(11906, 16838);
-  tolmar::FixedDateHost host(std::chrono::year_month_day{std::chrono::year{2025}, std::chrono::month{6},
-                                                         std::chrono::day{15}});
+  tolmar::FixedDateHost host(std::chrono::year_month_day{
+      std::chrono::year{2025}, std::chrono::month{6}, std::chrono::day{15}});
   tolmar::PrintJob job{s, *h, host};
   std::size_t calls = 0, pages = 0;
   for (auto _ : state) {
@@ -31,8 +31,8 @@ BENCHMARK(BM_PrintAllSheets21Lines)->Unit(benchmark::kMillisecond);
 void BM_PrintDrawing21Lines(benchmark::State& state) {
   auto h = tolmar::fixture::manyLineHull();
   tolmar::RecordingSurface s(11906, 16838);
-  tolmar::FixedDateHost host(std::chrono::year_month_day{std::chrono::year{2025}, std::chrono::month{6},
-                                                         std::chrono::day{15}});
+  tolmar::FixedDateHost host(std::chrono::year_month_day{
+      std::chrono::year{2025}, std::chrono::month{6}, std::chrono::day{15}});
   tolmar::PrintJob job{s, *h, host};
   for (auto _ : state) {
     s.clear();

@@ -47,8 +47,10 @@ int usage(const char* why) {
 
 std::optional<BoardControl> kindEntry(const std::string& kind) {
   static const std::map<std::string, BoardControl> kinds = {
-      {"data", BoardControl::fmenu_P_Data},       {"drawing", BoardControl::fmenu_P_Dessin},
-      {"develop", BoardControl::fmenu_P_Develop}, {"station", BoardControl::fmenu_P_Station},
+      {"data", BoardControl::fmenu_P_Data},
+      {"drawing", BoardControl::fmenu_P_Dessin},
+      {"develop", BoardControl::fmenu_P_Develop},
+      {"station", BoardControl::fmenu_P_Station},
       {"all", BoardControl::fmenu_P_Tout}};
   const auto it = kinds.find(kind);
   if (it == kinds.end()) return std::nullopt;
@@ -66,10 +68,11 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
     if (a == "--paper") {
       const std::string* v = value();
       if (!v) return usage("--paper needs A4, A3 or Letter");
-      if (*v == "A4") p.paper = QPageSize::A4;
-      else if (*v == "A3") p.paper = QPageSize::A3;
-      else if (*v == "Letter") p.paper = QPageSize::Letter;
-      else return usage("--paper takes A4, A3 or Letter");
+      static const std::map<std::string, QPageSize::PageSizeId> papers = {
+          {"A4", QPageSize::A4}, {"A3", QPageSize::A3}, {"Letter", QPageSize::Letter}};
+      const auto paper = papers.find(*v);
+      if (paper == papers.end()) return usage("--paper takes A4, A3 or Letter");
+      p.paper = paper->second;
     } else if (a == "--landscape") {
       p.landscape = true;
     } else if (a == "--station") {
@@ -122,13 +125,26 @@ void runEntry(PrintJob& job, board::BoardState& b, const board::Actions& steps) 
   for (const board::Action& a : steps) {
     if (a.what != board::Do::Run) continue;
     switch (a.control) {
-      case BoardControl::DessCouple: board::drawStationState(b, job.h); break;
-      case BoardControl::fmenu_P_Data: fmenu_P_Data(job); break;
-      case BoardControl::fmenu_P_Dessin: fmenu_P_Dessin(job, b.stepIndex); break;
-      case BoardControl::fmenu_P_Develop: fmenu_P_Develop(job, b.stepIndex); break;
-      case BoardControl::fmenu_P_Station: fmenu_P_Station(job); break;
-      case BoardControl::fmenu_P_Tout: fmenu_P_Tout(job, b.stepIndex); break;
-      default: break;
+      case BoardControl::DessCouple:
+        board::drawStationState(b, job.h);
+        break;
+      case BoardControl::fmenu_P_Data:
+        fmenu_P_Data(job);
+        break;
+      case BoardControl::fmenu_P_Dessin:
+        fmenu_P_Dessin(job, b.stepIndex);
+        break;
+      case BoardControl::fmenu_P_Develop:
+        fmenu_P_Develop(job, b.stepIndex);
+        break;
+      case BoardControl::fmenu_P_Station:
+        fmenu_P_Station(job);
+        break;
+      case BoardControl::fmenu_P_Tout:
+        fmenu_P_Tout(job, b.stepIndex);
+        break;
+      default:
+        break;
     }
   }
 }

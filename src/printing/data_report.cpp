@@ -63,7 +63,8 @@ void DataReport::parameters() {
   row(t("Arrière  X^ ", "Aft      X^"), formatNumber(h_.powerAft, " 0.0"));
   row(t("Coef. forme ", "S factor "), formatNumber(h_.shapeAft, " 0.0"));
   w_.blank();
-  row(t("Angle d'avance de quille", "Keel advance angle "), formatNumber(h_.keelAdvance, " 0.0"), " deg.");
+  row(t("Angle d'avance de quille", "Keel advance angle "), formatNumber(h_.keelAdvance, " 0.0"),
+      " deg.");
   w_.blank();
   if (job_.french()) {
     label("Nombre de bouchains actifs = ");
@@ -77,7 +78,8 @@ void DataReport::parameters() {
   w_.text(printNumberText(80));
   w_.end();
   w_.blank();
-  title("----------  inclinaisons / horizontal des bordés ", "----------  Planks inclination / vertical");
+  title("----------  inclinaisons / horizontal des bordés ",
+        "----------  Planks inclination / vertical");
   row(t("Fond  ", "Bottom "), formatNumber(h_.plankAngle(0), " 00.0"), " deg. ");
   for (int k = 1; k <= n - 1; ++k)
     row(t("Bordé ", "Plank ") + labelNumber(k), formatNumber(h_.plankAngle(k), " 00.0"), " deg. ");

@@ -26,15 +26,23 @@ std::string coord(double v) { return formatNumber(v, "#0.0000"); }
 // The label and point number of a row, with the blank lines around the
 // maximum beam; `values` puts the numbers of the point on the line.
 template <typename Values>
-void printRows(ReportWriter& w, const PrintJob& job, const std::vector<TableRow>& rows, Values values) {
+void printRows(ReportWriter& w, const PrintJob& job, const std::vector<TableRow>& rows,
+               Values values) {
   for (const TableRow& r : rows) {
     if (r.kind == TableRow::MaxBeam) w.blank();
     w.tab(kReportMargin);
     switch (r.kind) {
-      case TableRow::Transom: w.text(pick(job, "Tableau", "Transom")); break;
-      case TableRow::MaxBeam: w.text("Bmax"); break;
-      case TableRow::Stem: w.text(pick(job, "Etrave", "Stem")); break;
-      case TableRow::Grid: break;
+      case TableRow::Transom:
+        w.text(pick(job, "Tableau", "Transom"));
+        break;
+      case TableRow::MaxBeam:
+        w.text("Bmax");
+        break;
+      case TableRow::Stem:
+        w.text(pick(job, "Etrave", "Stem"));
+        break;
+      case TableRow::Grid:
+        break;
     }
     w.tab(32).text(formatNumber(r.point, "#0"));
     values(r.point);
@@ -69,7 +77,12 @@ void printOffsets(PrintJob& job, int n) {
   w.end();
   w.blank();
   printRows(w, job, tableRows(beamPoint(h, kLastPoint), 81, kLastPoint), [&](int i) {
-    w.tab(44).text(coord(h.lineX(n, i))).tab(60).text(coord(h.lineY(n, i))).tab(76).text(coord(h.lineZ(n, i)));
+    w.tab(44)
+        .text(coord(h.lineX(n, i)))
+        .tab(60)
+        .text(coord(h.lineY(n, i)))
+        .tab(76)
+        .text(coord(h.lineZ(n, i)));
   });
   w.blank();
   w.tab(kReportMargin).text("----- EOF ----- ").text(name);
@@ -79,8 +92,9 @@ void printOffsets(PrintJob& job, int n) {
 void printPlateTable(PrintJob& job, int n) {
   const HullStore& h = job.h;
   n = std::clamp(n, 0, kMaxLine - 1);
-  const std::string title = n == 0 ? std::string(pick(job, "Développement du fond", "Development of bottom"))
-                                   : pick(job, "Développement du bordé ", "Development of plank ") + labelNumber(n);
+  const std::string title =
+      n == 0 ? std::string(pick(job, "Développement du fond", "Development of bottom"))
+             : pick(job, "Développement du bordé ", "Development of plank ") + labelNumber(n);
 
   ReportWriter w(job.s);
   w.newPage();

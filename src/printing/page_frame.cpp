@@ -24,18 +24,12 @@ struct ScaleMark {
 };
 
 constexpr ScaleMark kMarks[] = {
-    {-kInf, kInf, 0, false, 0, "0", 50},
-    {5670, kInf, 0.1, true, -10, ".1", 80},
-    {5670, kInf, 0.2, true, -10, ".2", 80},
-    {567, kInf, 1, true, 10, "1", 50},
-    {567, kInf, 2, true, 20, "2", 50},
-    {56.7, 1134, 5, true, 30, "5", 50},
-    {56.7, 1134, 10, true, 40, "10", 150},
-    {5.67, 113.4, 50, true, 50, "50", 120},
-    {5.67, 113.4, 100, true, 60, "100", 120},
-    {0.567, 11.34, 500, true, 70, "500", 240},
-    {0.567, 11.34, 1000, true, 80, "1000", 350},
-    {0.0567, 1.134, 10000, true, 90, "10000", 450},
+    {-kInf, kInf, 0, false, 0, "0", 50},         {5670, kInf, 0.1, true, -10, ".1", 80},
+    {5670, kInf, 0.2, true, -10, ".2", 80},      {567, kInf, 1, true, 10, "1", 50},
+    {567, kInf, 2, true, 20, "2", 50},           {56.7, 1134, 5, true, 30, "5", 50},
+    {56.7, 1134, 10, true, 40, "10", 150},       {5.67, 113.4, 50, true, 50, "50", 120},
+    {5.67, 113.4, 100, true, 60, "100", 120},    {0.567, 11.34, 500, true, 70, "500", 240},
+    {0.567, 11.34, 1000, true, 80, "1000", 350}, {0.0567, 1.134, 10000, true, 90, "10000", 450},
 };
 
 struct LineExtent {
@@ -111,7 +105,9 @@ void printFrame(PrintJob& job, FrameView view) {
   const double oY = h.printOriginY, oZ = h.printOriginZ;
   const double sY = h.printScaleY, sZ = h.printScaleZ;
   switch (view) {
-    case FrameView::Sheet: horizontalAxis(s, oY, W * 0.95 - 200, "X"); break;
+    case FrameView::Sheet:
+      horizontalAxis(s, oY, W * 0.95 - 200, "X");
+      break;
     case FrameView::Plan: {
       horizontalAxis(s, oY, W * 0.95 - 400, "X");
       verticalAxis(s, sY * e.yHi + oY, oY - 1.1 * e.yHi * sY - 200, "Y");

@@ -7,10 +7,18 @@
 
 namespace tolmar {
 
-inline float qx(const HullStore& h, double x) { return static_cast<float>(h.printScaleX * x + h.printOriginX); }
-inline float qy(const HullStore& h, double y) { return static_cast<float>(h.printScaleY * y + h.printOriginY); }
+inline float qx(const HullStore& h, double x) {
+  return static_cast<float>(h.printScaleX * x + h.printOriginX);
+}
+inline float qy(const HullStore& h, double y) {
+  return static_cast<float>(h.printScaleY * y + h.printOriginY);
+}
 // The mirror image of qy: the other side of the centre line.
-inline float qm(const HullStore& h, double y) { return static_cast<float>(h.printOriginY - h.printScaleY * y); }
-inline float qz(const HullStore& h, double z) { return static_cast<float>(h.printScaleZ * z + h.printOriginZ); }
+inline float qm(const HullStore& h, double y) {
+  return static_cast<float>(h.printOriginY - h.printScaleY * y);
+}
+inline float qz(const HullStore& h, double z) {
+  return static_cast<float>(h.printScaleZ * z + h.printOriginZ);
+}
 
 }  // namespace tolmar

@@ -41,7 +41,9 @@ struct EndFigure {
   const HullStore& h;
   double o;
   float x(double a) const { return static_cast<float>(o + h.printOriginX + h.printScaleX * a); }
-  float y(double b, int side) const { return static_cast<float>(h.printOriginY + side * h.printScaleY * b); }
+  float y(double b, int side) const {
+    return static_cast<float>(h.printOriginY + side * h.printScaleY * b);
+  }
   void label(float y, const std::string& text) {
     s.PSet(static_cast<float>(o + h.printOriginX), y);
     s.Print(text);
@@ -88,8 +90,8 @@ void printEndPlates(PrintJob& job) {
   transom.plate(h.transomPlate, last);
 
   const int m = std::clamp<int>(h.iMaxBeam, 0, kLastPoint);
-  EndFigure beam{s, h,
-                 offset16((h.transomPlate(1, 13) - h.lineZ(0, m) + 0.1 * h.xFwd(0)) * h.printScaleX)};
+  EndFigure beam{
+      s, h, offset16((h.transomPlate(1, 13) - h.lineZ(0, m) + 0.1 * h.xFwd(0)) * h.printScaleX)};
   beam.label(1200, " station Bmax");
   beam.label(1400, " x=" + formatNumber(h.lineX(0, m), "0.000"));
   s.PSet(beam.x(h.lineZ(0, m)), beam.y(h.lineY(0, m), 1));
@@ -121,7 +123,9 @@ void ImprimeStation(PrintJob& job, int station) {
   s.Line(400, h.printOriginZ, static_cast<float>(W * 0.95 - 200), h.printOriginZ);
   s.DrawStyle = kStyleSolid;
 
-  auto x = [&](int j, int side) { return static_cast<float>(xc + side * h.printScaleX * h.stationY(st, j)); };
+  auto x = [&](int j, int side) {
+    return static_cast<float>(xc + side * h.printScaleX * h.stationY(st, j));
+  };
   s.PSet(xc, qz(h, h.stationZ(st, 0)));
   for (int j = 0; j <= last; ++j) s.LineTo(x(j, 1), qz(h, h.stationZ(st, j)));
   for (int j = last; j >= 0; --j) s.LineTo(x(j, -1), qz(h, h.stationZ(st, j)));

@@ -51,7 +51,8 @@ void planPlanks(DrawingSurface& s, const HullStore& h, int side) {
 // the axis ax (metres along the paper's X), or on the axis for side 0.
 class SectionView {
  public:
-  explicit SectionView(DrawingSurface& s, const HullStore& h) : s_(s), h_(h), ax_(h.lineX(1, 80) / 2) {}
+  explicit SectionView(DrawingSurface& s, const HullStore& h)
+      : s_(s), h_(h), ax_(h.lineX(1, 80) / 2) {}
 
   float axisX() const { return static_cast<float>(h_.printScaleX * ax_ + h_.printOriginX); }
   float x(int st, int j, int side) const {

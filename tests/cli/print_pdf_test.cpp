@@ -40,7 +40,9 @@ Shell sh(const std::string& cmd) {
 
 std::string q(const fs::path& p) { return "'" + p.string() + "'"; }
 
-Shell print(const std::string& args) { return sh("'" + std::string(TOLMAR_CLI) + "' print " + args); }
+Shell print(const std::string& args) {
+  return sh("'" + std::string(TOLMAR_CLI) + "' print " + args);
+}
 
 std::string slurp(const fs::path& p) {
   std::ifstream in(p, std::ios::binary);
@@ -53,7 +55,8 @@ class CliPrint : public ::testing::Test {
  protected:
   void SetUp() override {
     if (print("--help").status != 0) GTEST_SKIP() << "built without the Qt drawing library";
-    if (sh("pdfinfo -v").status != 0 || sh("pdftotext -v").status != 0) GTEST_SKIP() << "poppler missing";
+    if (sh("pdfinfo -v").status != 0 || sh("pdftotext -v").status != 0)
+      GTEST_SKIP() << "poppler missing";
     dir_ = fs::temp_directory_path() / ("tolmar_print_" + std::to_string(getpid()));
     fs::create_directories(dir_);
     hull_ = dir_ / "BOAT.D50";
@@ -64,7 +67,9 @@ class CliPrint : public ::testing::Test {
   }
   std::string info(const fs::path& pdf) { return sh("pdfinfo " + q(pdf)).out; }
   std::string text(const fs::path& pdf, int page) {
-    return sh("pdftotext -f " + std::to_string(page) + " -l " + std::to_string(page) + " " + q(pdf) + " -").out;
+    return sh("pdftotext -f " + std::to_string(page) + " -l " + std::to_string(page) + " " +
+              q(pdf) + " -")
+        .out;
   }
   fs::path dir_, hull_;
 };
@@ -82,8 +87,8 @@ TEST_F(CliPrint, DrawingOnA4) {
   EXPECT_EQ(pages(i), 3);
   EXPECT_NE(i.find("595 x 842 pts (A4)"), std::string::npos) << i;
   for (int p = 1; p <= 3; ++p) {
-    EXPECT_TRUE(std::regex_search(text(pdf, p), std::regex("BOAT\\s+date:\\d\\d-\\d\\d-\\d{4}\\s+page " +
-                                                           std::to_string(p))))
+    EXPECT_TRUE(std::regex_search(
+        text(pdf, p), std::regex("BOAT\\s+date:\\d\\d-\\d\\d-\\d{4}\\s+page " + std::to_string(p))))
         << text(pdf, p);
   }
 }
@@ -108,8 +113,8 @@ TEST_F(CliPrint, OneMetreOfTheScaleBar) {
     std::ostringstream expect;
     expect.precision(6);
     expect << mm;
-    const Shell m = sh("python3 /work/shared/tools/pdf_measure.py " + q(pdf) + " --page 1 --expect " + expect.str() +
-                     " --tol-mm 0.05");
+    const Shell m = sh("python3 /work/shared/tools/pdf_measure.py " + q(pdf) +
+                       " --page 1 --expect " + expect.str() + " --tol-mm 0.05");
     EXPECT_EQ(m.status, 0) << "scale " << h->printScaleX << "\n" << m.out;
   }
 }
@@ -165,7 +170,8 @@ TEST_F(CliPrint, HullTooBigForThePaper) {
   const Shell r = print(q(hull_) + " all " + q(pdf) + " --set 'bouchain1.Text1(0)=100000'");
   ASSERT_EQ(r.status, 0) << r.out;
   EXPECT_GE(pages(info(pdf)), 20);
-  EXPECT_NE(text(pdf, 3).find("10000"), std::string::npos) << "the 10 km mark of a scale below 1.134";
+  EXPECT_NE(text(pdf, 3).find("10000"), std::string::npos)
+      << "the 10 km mark of a scale below 1.134";
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 // The frame of a drawing page: head, scale bar marks by scale, and the
 // axes of each view.
+#include "printing/page_frame.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,7 +9,6 @@
 #include <vector>
 
 #include "print_fixture.h"
-#include "printing/page_frame.h"
 #include "printing/page_scale.h"
 
 namespace tolmar {
@@ -35,13 +36,14 @@ TEST(ImprimeEchelle, MarksFollowTheScale) {
       {1136, {{"0", 0, kNoBar}, {"1", 1, 10}, {"2", 2, 20}}},
       {6000, {{"0", 0, kNoBar}, {".1", 0.1, -10}, {".2", 0.2, -10}, {"1", 1, 10}, {"2", 2, 20}}},
       {56.8f, {{"0", 0, kNoBar}, {"5", 5, 30}, {"10", 10, 40}, {"50", 50, 50}, {"100", 100, 60}}},
-      {5.68f, {{"0", 0, kNoBar}, {"50", 50, 50}, {"100", 100, 60}, {"500", 500, 70}, {"1000", 1000, 80}}},
+      {5.68f,
+       {{"0", 0, kNoBar}, {"50", 50, 50}, {"100", 100, 60}, {"500", 500, 70}, {"1000", 1000, 80}}},
       {1, {{"0", 0, kNoBar}, {"500", 500, 70}, {"1000", 1000, 80}, {"10000", 10000, 90}}},
       {0.05f, {{"0", 0, kNoBar}}},
   };
-  const std::map<std::string, float> shift = {{"0", 50},   {".1", 80},   {".2", 80},   {"1", 50},
-                                              {"2", 50},   {"5", 50},    {"10", 150},  {"50", 120},
-                                              {"100", 120}, {"500", 240}, {"1000", 350}, {"10000", 450}};
+  const std::map<std::string, float> shift = {
+      {"0", 50},   {".1", 80},  {".2", 80},   {"1", 50},    {"2", 50},     {"5", 50},
+      {"10", 150}, {"50", 120}, {"100", 120}, {"500", 240}, {"1000", 350}, {"10000", 450}};
   for (const BarCase& c : cases) {
     SCOPED_TRACE(c.scale);
     RecordingSurface s(11906, 16838);
@@ -130,7 +132,8 @@ TEST(PrintFrame, AxesOfEachView) {
     std::vector<std::string> letters;
     std::vector<DrawCall> axes;
     for (const DrawCall& d : p.s.calls()) {
-      if (d.op == DrawOp::Print && (d.text == "X" || d.text == "Y" || d.text == "Z")) letters.push_back(d.text);
+      if (d.op == DrawOp::Print && (d.text == "X" || d.text == "Y" || d.text == "Z"))
+        letters.push_back(d.text);
       if (d.style == kStyleDashDot) axes.push_back(d);
       if (d.op == DrawOp::LineStep) {
         EXPECT_EQ(d.style, kStyleSolid) << "arrows are solid";
@@ -143,8 +146,9 @@ TEST(PrintFrame, AxesOfEachView) {
     // The horizontal axis from the margin.
     EXPECT_FLOAT_EQ(axes[0].x1, 681.6f);
     EXPECT_FLOAT_EQ(axes[0].x2, c.view == FrameView::Plan ? W95 - 400 : W95 - 200);
-    EXPECT_FLOAT_EQ(axes[0].y1, c.view == FrameView::Plan || c.view == FrameView::Sheet ? h.printOriginY
-                                                                                        : h.printOriginZ);
+    EXPECT_FLOAT_EQ(axes[0].y1, c.view == FrameView::Plan || c.view == FrameView::Sheet
+                                    ? h.printOriginY
+                                    : h.printOriginZ);
     if (c.axes == 2) {
       EXPECT_FLOAT_EQ(axes[1].x1, 681.6f);
       EXPECT_FLOAT_EQ(axes[1].x2, 681.6f);

@@ -1,11 +1,12 @@
 // The print scale: its steps, the fit of a hull to the page, the origins,
 // and the cases where the hull or the paper leave nothing to fit.
+#include "printing/page_scale.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 #include "print_fixture.h"
-#include "printing/page_scale.h"
 
 namespace tolmar {
 namespace {
@@ -16,10 +17,10 @@ struct StepCase {
 
 TEST(StepScale, WholeStepsOfEachRange) {
   const StepCase cases[] = {
-      {2273, 2272},     {1136, 1136},   {1135.999, 568}, {1135, 568},   {568.001, 568},
-      {568, 568},       {567.9, 454.4}, {227.2, 227.2},  {113.6, 113.6}, {113.5, 56.8},
-      {56.8, 56.8},     {56.79, 51.12}, {5.68, 5.68},    {5.67, 5.67},  {0.02, 0.02},
-      {10000000, 9999072},
+      {2273, 2272},   {1136, 1136},  {1135.999, 568}, {1135, 568},
+      {568.001, 568}, {568, 568},    {567.9, 454.4},  {227.2, 227.2},
+      {113.6, 113.6}, {113.5, 56.8}, {56.8, 56.8},    {56.79, 51.12},
+      {5.68, 5.68},   {5.67, 5.67},  {0.02, 0.02},    {10000000, 9999072},
   };
   for (const StepCase& c : cases) EXPECT_NEAR(stepScale(c.raw), c.stepped, 1e-9) << "raw " << c.raw;
 }

@@ -90,7 +90,9 @@ inline std::string textGrid(const Page& page) {
     std::vector<std::string>& line = rows[row];
     for (std::size_t i = 0; i < c.text.size(); ++col) {
       std::size_t len = 1;
-      while (i + len < c.text.size() && (static_cast<unsigned char>(c.text[i + len]) & 0xC0) == 0x80) ++len;
+      while (i + len < c.text.size() &&
+             (static_cast<unsigned char>(c.text[i + len]) & 0xC0) == 0x80)
+        ++len;
       if (line.size() <= col) line.resize(col + 1, " ");
       line[col] = c.text.substr(i, len);
       i += len;
@@ -123,7 +125,8 @@ inline void expectGolden(const std::string& name, const std::string& actual) {
 
 inline bool allFinite(const std::vector<DrawCall>& calls) {
   for (const DrawCall& c : calls)
-    if (!std::isfinite(c.x1) || !std::isfinite(c.y1) || !std::isfinite(c.x2) || !std::isfinite(c.y2))
+    if (!std::isfinite(c.x1) || !std::isfinite(c.y1) || !std::isfinite(c.x2) ||
+        !std::isfinite(c.y2))
       return false;
   return true;
 }

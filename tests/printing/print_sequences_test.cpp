@@ -108,9 +108,10 @@ TEST(FmenuPDevelop, BottomPlanksAndEndPlatesOnSheets) {
   p.h->langue = 1;
   fmenu_P_Develop(p.job, 1);
   expectDocument(p.s);
-  EXPECT_EQ(describeAll(p.s), (std::vector<std::string>{"sheet + Bottom", "sheet + Side plank 1 ",
-                                                        "sheet + Side plank 2 ", "sheet + Side plank 3 ",
-                                                        "sheet + Side plank 4 ", "sheet + end plates"}));
+  EXPECT_EQ(describeAll(p.s),
+            (std::vector<std::string>{"sheet + Bottom", "sheet + Side plank 1 ",
+                                      "sheet + Side plank 2 ", "sheet + Side plank 3 ",
+                                      "sheet + Side plank 4 ", "sheet + end plates"}));
 
   Printout bottom(fixture::defaultHull());
   bottom.h->langue = 0;
@@ -180,9 +181,10 @@ TEST(FmenuPTout, BottomOnlyAndPramBow) {
   bottom.h->langue = 1;
   fmenu_P_Tout(bottom.job, 0);
   expectDocument(bottom.s);
-  EXPECT_EQ(describeAll(bottom.s),
-            (std::vector<std::string>{"data", "profile", "plan", "sections", "Line of the keel ",
-                                      "Line of chine  1", "plan + Bottom", "Development of bottom"}));
+  EXPECT_EQ(
+      describeAll(bottom.s),
+      (std::vector<std::string>{"data", "profile", "plan", "sections", "Line of the keel ",
+                                "Line of chine  1", "plan + Bottom", "Development of bottom"}));
 
   Printout pram(fixture::pramBowHull(), 11906, 23811);
   pram.h->langue = 1;
@@ -204,7 +206,8 @@ TEST(FmenuPTout, OneScaleForTheWholeDocument) {
   for (const Page& pg : pages(p.s.calls())) {
     const auto& c = pg;
     for (std::size_t i = 1; i < c.size(); ++i)
-      if (c[i].op == DrawOp::Print && c[i].text == "1" && c[i - 1].op == DrawOp::Line) ticks.push_back(c[i - 1].x1);
+      if (c[i].op == DrawOp::Print && c[i].text == "1" && c[i - 1].op == DrawOp::Line)
+        ticks.push_back(c[i - 1].x1);
   }
   ASSERT_EQ(ticks.size(), 9u);  // 3 views, the bottom and 4 planks, the end plates
   for (float x : ticks) EXPECT_FLOAT_EQ(x, static_cast<float>(681.6 + p.h->printScaleX));
@@ -231,7 +234,8 @@ TEST(FmenuPTout, TwentyOneLinesOnA4) {
   const int n = p.h->nChines;
   // data on pages, 3 views, n + 1 offsets, n plates and tables, end plates and 2 tables.
   int dataPages = 0;
-  while (d[static_cast<std::size_t>(dataPages)] == "data" || d[static_cast<std::size_t>(dataPages)] == "(continued)")
+  while (d[static_cast<std::size_t>(dataPages)] == "data" ||
+         d[static_cast<std::size_t>(dataPages)] == "(continued)")
     ++dataPages;
   EXPECT_GE(static_cast<int>(d.size()), dataPages + 3 + (n + 1) + 2 * n + 1 + 2);
   for (const DrawCall& c : p.s.calls())

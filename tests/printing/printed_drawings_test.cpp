@@ -94,8 +94,10 @@ TEST(PrintSections, AftStationsLeftForwardRightOfTheirOwnAxis) {
   ASSERT_FALSE(c.empty());
   EXPECT_EQ(c[0].style, kStyleDashDot);
   EXPECT_FLOAT_EQ(c[0].x1, axis);
-  EXPECT_FLOAT_EQ(c[0].y1, static_cast<float>(1.1 * h.lineZ(4, 40) * h.printScaleZ + h.printOriginZ - 300));
-  EXPECT_FLOAT_EQ(c[0].y2, static_cast<float>(1.1 * h.lineZ(0, 40) * h.printScaleZ + h.printOriginZ + 300));
+  EXPECT_FLOAT_EQ(c[0].y1,
+                  static_cast<float>(1.1 * h.lineZ(4, 40) * h.printScaleZ + h.printOriginZ - 300));
+  EXPECT_FLOAT_EQ(c[0].y2,
+                  static_cast<float>(1.1 * h.lineZ(0, 40) * h.printScaleZ + h.printOriginZ + 300));
   // Steps 2 and 3 draw the transom and stations 4..40 on the - side, then 40..82 on the + side.
   const std::size_t aft = 2 + 10 + 10 * 13;
   for (std::size_t i = 1; i < c.size(); ++i) {
@@ -126,8 +128,9 @@ TEST(PrintSections, TransomStrokeNeedsTheFlagOfLineTwoAlone) {
       if (d.colour == rgb(10, 20, 30)) {
         ++stroke;
         EXPECT_FLOAT_EQ(d.y2, p.z(h.stationZ(0, 11)));
-        EXPECT_FLOAT_EQ(d.x1, static_cast<float>(h.printScaleX * (h.lineX(1, 80) / 2 - h.stationY(0, 11)) +
-                                                 h.printOriginX));
+        EXPECT_FLOAT_EQ(
+            d.x1, static_cast<float>(h.printScaleX * (h.lineX(1, 80) / 2 - h.stationY(0, 11)) +
+                                     h.printOriginX));
       }
     }
     EXPECT_EQ(topEdge, 1);
@@ -163,8 +166,10 @@ TEST(PrintPlate, TwoFiguresAboutTheCentreLine) {
     const int m = h.iMaxBeam;
     EXPECT_EQ(dotted[0].style, kStyleDot);
     EXPECT_FLOAT_EQ(dotted[0].x1, static_cast<float>(h.printScaleX * h.devXi(m) + 682));
-    EXPECT_FLOAT_EQ(dotted[0].y1, static_cast<float>(h.printOriginY + 100 + h.printScaleY * h.devYi(m)));
-    EXPECT_FLOAT_EQ(dotted[1].y2, static_cast<float>(h.printOriginY - 100 - h.printScaleY * h.devYs(m)));
+    EXPECT_FLOAT_EQ(dotted[0].y1,
+                    static_cast<float>(h.printOriginY + 100 + h.printScaleY * h.devYi(m)));
+    EXPECT_FLOAT_EQ(dotted[1].y2,
+                    static_cast<float>(h.printOriginY - 100 - h.printScaleY * h.devYs(m)));
     for (const DrawCall& d : c) EXPECT_LT(d.x2, 1e5f);
   }
 }
@@ -197,9 +202,11 @@ TEST(PrintEndPlates, PointedStemLeavesTheBowOut) {
   EXPECT_FLOAT_EQ(prints[0].y1, 1200);
   EXPECT_FLOAT_EQ(prints[2].y1, 1400);
   const HullStore& h = *pram.h;
-  EXPECT_FLOAT_EQ(prints[0].x1, static_cast<float>(std::nearbyint(-h.printOriginX / 3.0) + h.printOriginX));
-  EXPECT_FLOAT_EQ(prints[3].x1,
-                  static_cast<float>(std::nearbyint(h.xFwd(0) * 0.75 * h.printScaleX) + h.printOriginX));
+  EXPECT_FLOAT_EQ(prints[0].x1,
+                  static_cast<float>(std::nearbyint(-h.printOriginX / 3.0) + h.printOriginX));
+  EXPECT_FLOAT_EQ(
+      prints[3].x1,
+      static_cast<float>(std::nearbyint(h.xFwd(0) * 0.75 * h.printScaleX) + h.printOriginX));
 }
 
 TEST(PrintEndPlates, StrokeAtSectionPointElevenWhateverTheFlags) {
@@ -216,9 +223,12 @@ TEST(PrintEndPlates, StrokeAtSectionPointElevenWhateverTheFlags) {
   EXPECT_EQ(c[at + 1].op, DrawOp::LineTo);
   EXPECT_FLOAT_EQ(c[at].x1, c[at + 1].x2);
   const double o = std::nearbyint(-h.printOriginX / 3.0);
-  EXPECT_FLOAT_EQ(c[at].y1, static_cast<float>(h.printOriginY + h.printScaleY * h.transomPlate(2, 11)));
-  EXPECT_FLOAT_EQ(c[at + 1].y2, static_cast<float>(h.printOriginY - h.printScaleY * h.transomPlate(2, 11)));
-  EXPECT_FLOAT_EQ(c[at].x1, static_cast<float>(o + h.printOriginX + h.printScaleX * h.transomPlate(1, 11)));
+  EXPECT_FLOAT_EQ(c[at].y1,
+                  static_cast<float>(h.printOriginY + h.printScaleY * h.transomPlate(2, 11)));
+  EXPECT_FLOAT_EQ(c[at + 1].y2,
+                  static_cast<float>(h.printOriginY - h.printScaleY * h.transomPlate(2, 11)));
+  EXPECT_FLOAT_EQ(c[at].x1,
+                  static_cast<float>(o + h.printOriginX + h.printScaleX * h.transomPlate(1, 11)));
 }
 
 TEST(ImprimeStation, ClosedSectionInTheMiddleOfTheSheet) {

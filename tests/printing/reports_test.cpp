@@ -45,10 +45,12 @@ std::vector<int> points(const std::vector<TableRow>& rows) {
 }
 
 TEST(TableRows, GridRunsThroughTheMaximumBeam) {
-  std::vector<int> at41 = {0, 1, 5, 9, 13, 17, 21, 25, 29, 33, 37, 41, 45, 49, 53, 57, 61, 65, 69, 73, 77, 81, 82};
+  std::vector<int> at41 = {0,  1,  5,  9,  13, 17, 21, 25, 29, 33, 37, 41,
+                           45, 49, 53, 57, 61, 65, 69, 73, 77, 81, 82};
   EXPECT_EQ(points(tableRows(41, 81, 82)), at41);
   EXPECT_EQ(tableRows(41, 81, 82)[11].kind, TableRow::MaxBeam);
-  std::vector<int> at42 = {0, 1, 5, 9, 13, 17, 21, 25, 29, 33, 37, 41, 42, 45, 49, 53, 57, 61, 65, 69, 73, 77, 81, 82};
+  std::vector<int> at42 = {0,  1,  5,  9,  13, 17, 21, 25, 29, 33, 37, 41,
+                           42, 45, 49, 53, 57, 61, 65, 69, 73, 77, 81, 82};
   EXPECT_EQ(points(tableRows(42, 81, 82)), at42);
   EXPECT_EQ(tableRows(42, 81, 82)[12].kind, TableRow::MaxBeam);
   // The bottom's table ends one point further, on its closing point 83.
@@ -104,7 +106,8 @@ TEST(PrintData, LabelsAtTheMarginValuesAtTab44) {
   printData(fr.job);
   const auto lines = gridLines(textGrid(pages(fr.s.calls())[0]));
   ASSERT_GT(lines.size(), 40u);
-  EXPECT_EQ(lines[1], "                    Tolmar2008  - fichier TOLMAR2005 -  daté: 06-15-2025  page 1 ");
+  EXPECT_EQ(lines[1],
+            "                    Tolmar2008  - fichier TOLMAR2005 -  daté: 06-15-2025  page 1 ");
   bool chines = false, points = false;
   for (const std::string& l : lines) {
     if (l.rfind("                    Nombre de bouchains actifs = ", 0) == 0) {
@@ -192,10 +195,13 @@ TEST(PrintPlateTable, BottomToPointEightyThreePlanksToEightyTwo) {
   const auto lines = gridLines(textGrid(pg[1]));
   EXPECT_TRUE(lines[0].empty()) << "a blank line before the head";
   EXPECT_EQ(lines[1], "                   Tolmar2008TOLMAR2005  date: 06-15-2025   page 2 ");
-  EXPECT_EQ(lines[5], "                                         Coté quille                   Coté bouchain 1");
+  EXPECT_EQ(
+      lines[5],
+      "                                         Coté quille                   Coté bouchain 1");
   const std::string& last = lines[lines.size() - 3];
   EXPECT_EQ(last.substr(0, 33), "                   Etrave      83");
-  EXPECT_EQ(last.substr(39, formatNumber(p.h->devXi(83), "#0.0000").size()), formatNumber(p.h->devXi(83), "#0.0000"));
+  EXPECT_EQ(last.substr(39, formatNumber(p.h->devXi(83), "#0.0000").size()),
+            formatNumber(p.h->devXi(83), "#0.0000"));
 
   Printout en(fixture::defaultHull());
   en.h->langue = 1;
@@ -204,8 +210,11 @@ TEST(PrintPlateTable, BottomToPointEightyThreePlanksToEightyTwo) {
   printtest::expectGolden("plate_plank2_en.txt", textGrid(pages(en.s.calls())[1]));
   const auto el = gridLines(textGrid(pages(en.s.calls())[1]));
   EXPECT_EQ(el[3], "                   ----- Development of plank  2");
-  EXPECT_EQ(el[5], "                                         Chine 2 egde                  Chine 3 edge");
-  EXPECT_EQ(el[6], "                                pt       Xi            Yi              Xs            Ys");
+  EXPECT_EQ(el[5],
+            "                                         Chine 2 egde                  Chine 3 edge");
+  EXPECT_EQ(
+      el[6],
+      "                                pt       Xi            Yi              Xs            Ys");
   EXPECT_EQ(el[el.size() - 3].substr(0, 33), "                   Stem        82");
 }
 
