@@ -27,7 +27,7 @@ class ReportWriter {
   // Ends the line: each run of text between tabs is one Print.
   void end();
   void blank() { end(); }
-  // A new page of the document, the line started there.
+  // The next page; a line not yet ended is dropped.
   void newPage();
 
   // Bottom room kept free on each page, twips.
