@@ -19,8 +19,8 @@ namespace {
 
 // Layout in twips on the 10000 x 7000 screen: a row per plank, four
 // columns of fields, then the three option groups in their frames.
-constexpr double kHeadTop = 650, kHeadHeight = 750;
-constexpr double kRowTop = 1600, kRowStep = 600, kRowHeight = 300;
+constexpr double kHeadTop = 550, kHeadHeight = 950;
+constexpr double kRowTop = 1750, kRowStep = 600, kRowHeight = 300;
 constexpr double kFieldLeft[4] = {1250, 2550, 3850, 5150};
 constexpr double kFieldWidth = 1150;
 constexpr double kFrameLeft[3] = {6550, 7700, 8850};
@@ -44,8 +44,9 @@ Bouchain2Window::Bouchain2Window(Session& s)
     l->setWordWrap(true);
     l->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     label1_[static_cast<std::size_t>(c - 1)] = l;
-    const double left = c <= 4 ? kFieldLeft[c - 1] : kFrameLeft[c - 5];
-    const double width = c <= 4 ? kFieldWidth : kFrameWidth;
+    // The inclination's long heading takes the gap before the frames too.
+    const double left = c <= 4 ? kFieldLeft[c - 1] - (c == 4 ? 100 : 0) : kFrameLeft[c - 5];
+    const double width = c <= 3 ? kFieldWidth : c == 4 ? kFieldWidth + 300 : kFrameWidth;
     place(l, t_, left, kHeadTop, width, kHeadHeight);
   }
 

@@ -71,7 +71,6 @@ Bouchain3Window::Bouchain3Window(Session& s)
   }
 
   label3_->setObjectName("Label3");
-  label3_->setAutoFillBackground(true);
   QPalette p = label3_->palette();
   p.setColor(QPalette::Window, kProgressGround);
   label3_->setPalette(p);
@@ -115,6 +114,8 @@ void Bouchain3Window::showProgress() {
   QPalette p = label3_->palette();
   p.setColor(QPalette::WindowText, qtColor(m_.Label3.foreColor));
   label3_->setPalette(p);
+  // The dark ground only behind a caption: an empty line is no bar.
+  label3_->setAutoFillBackground(!m_.Label3.caption.empty());
 }
 
 void Bouchain3Window::valider() {
