@@ -1,6 +1,7 @@
 #include "printing/printed_plates.h"
 
 #include <algorithm>
+#include <string>
 
 #include "development/end_plates.h"
 #include "printing/paper_map.h"
