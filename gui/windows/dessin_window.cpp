@@ -151,6 +151,7 @@ void DessinWindow::syncFromModel() {
   label2_->setText(captionOf(C::Label2, captionLangue_));
   if (text1_->text() != qtText(b_.text1)) text1_->setText(qtText(b_.text1));
   if (text2_->text() != qtText(b_.text2)) text2_->setText(qtText(b_.text2));
+  // The hull name's "background of the screen" is the window's own colour.
   QPalette p = text2_->palette();
   p.setColor(QPalette::Base, b_.text2Background == board::kScreenBackground ? palette().color(QPalette::Window)
                                                                            : qtColor(b_.text2Background));

@@ -3,7 +3,9 @@
 // validation that passes.  Closing the frame or pressing Escape counts as a
 // press of Valider: a user who closes the screen expects the values shown
 // to be taken, and a validation that changes something keeps the screen
-// open with its yellow fields, as Valider does.
+// open with its yellow fields, as Valider does.  A modal screen cannot lose
+// the activation to another screen of the program, so the validation on
+// deactivation has no occasion here.
 #pragma once
 
 #include <QDialog>

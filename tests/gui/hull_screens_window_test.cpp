@@ -195,6 +195,17 @@ class HullScreensWindowTest : public QObject {
     QCOMPARE(d.text1()->text().toDouble(), p.h().lineX(0, p.h().stationIndex));
     QVERIFY(d.action(C::fmenu_Station_DXF)->isEnabled());
   }
+
+  void developerDrawsThePlatesOverTheViews() {
+    Started p;
+    toPlanks(p);
+    p.s->bouchain2().valider();
+    gui::DessinWindow& d = p.board();
+    QVERIFY(d.button(C::Developer)->isEnabled());
+    const QImage views = d.plan().picture();
+    d.button(C::Developer)->click();
+    QVERIFY(test::inkedPixels(d.plan().picture()) > test::inkedPixels(views));
+  }
 };
 
 QTEST_MAIN(HullScreensWindowTest)
