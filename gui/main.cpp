@@ -8,7 +8,8 @@ int main(int argc, char** argv) {
   // may be the last window shown while menu2 is hidden.
   QApplication::setQuitOnLastWindowClosed(false);
   tolmar::gui::Session session;
-  QObject::connect(&session, &tolmar::gui::Session::programEnded, &app, &QApplication::quit, Qt::QueuedConnection);
+  QObject::connect(&session, &tolmar::gui::Session::programEnded, &app, &QApplication::quit,
+                   Qt::QueuedConnection);
   session.start();
   return app.exec();
 }

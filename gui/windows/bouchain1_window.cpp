@@ -62,7 +62,8 @@ Bouchain1Window::Bouchain1Window(Session& s)
   for (int i = 0; i <= 7; ++i) {
     const auto k = static_cast<std::size_t>(i);
     row(label2_[k], text2_[k], 1, i, QStringLiteral("Text2(%1)").arg(i));
-    connect(text2_[k], &QLineEdit::textEdited, this, [this, i](const QString& t) { m_.Text2(i).text = t.toStdString(); });
+    connect(text2_[k], &QLineEdit::textEdited, this,
+            [this, i](const QString& t) { m_.Text2(i).text = t.toStdString(); });
   }
   valider_->setObjectName("Valider");
   valider_->setDefault(true);

@@ -70,7 +70,8 @@ Bouchain2Window::Bouchain2Window(Session& s)
       auto* f = new QLineEdit(this);
       f->setObjectName(QStringLiteral("%1(%2)").arg(names[c]).arg(r));
       place(f, t_, kFieldLeft[c], top, kFieldWidth, kRowHeight);
-      connect(f, &QLineEdit::textEdited, this, [this, c, r](const QString& t) { column(c)(r).text = t.toStdString(); });
+      connect(f, &QLineEdit::textEdited, this,
+              [this, c, r](const QString& t) { column(c)(r).text = t.toStdString(); });
       text_[static_cast<std::size_t>(c)][k] = f;
     }
     Options* groups[3] = {&optShear_, &optTableau_, &optMarotte_};
@@ -104,10 +105,14 @@ Bouchain2Window::Bouchain2Window(Session& s)
 
 ControlArray<0, 4>& Bouchain2Window::column(int c) {
   switch (c) {
-    case 0: return m_.Text1;
-    case 1: return m_.Text2;
-    case 2: return m_.Text3;
-    default: return m_.Text4;
+    case 0:
+      return m_.Text1;
+    case 1:
+      return m_.Text2;
+    case 2:
+      return m_.Text3;
+    default:
+      return m_.Text4;
   }
 }
 

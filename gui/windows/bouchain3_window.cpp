@@ -50,21 +50,24 @@ Bouchain3Window::Bouchain3Window(Session& s)
     text2_[static_cast<std::size_t>(i)]->setObjectName(QStringLiteral("Text2(%1)").arg(i));
   }
   const std::array<std::pair<QLabel*, QLineEdit*>, 7> rows{{{label0_[1], text0_},
-                                                           {label1_, text1_},
-                                                           {label2_[0], text2_[0]},
-                                                           {label2_[1], text2_[1]},
-                                                           {label2_[2], text2_[2]},
-                                                           {label2_[3], text2_[3]},
-                                                           {label4_, text4_}}};
+                                                            {label1_, text1_},
+                                                            {label2_[0], text2_[0]},
+                                                            {label2_[1], text2_[1]},
+                                                            {label2_[2], text2_[2]},
+                                                            {label2_[3], text2_[3]},
+                                                            {label4_, text4_}}};
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const double top = kRowTop + static_cast<double>(i) * kRowStep;
     rows[i].first->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     place(rows[i].first, t_, kLabelLeft, top, kLabelWidth, kRowHeight);
     place(rows[i].second, t_, kFieldLeft, top, kFieldWidth, kRowHeight);
   }
-  connect(text0_, &QLineEdit::textEdited, this, [this](const QString& t) { m_.Text0.text = t.toStdString(); });
-  connect(text1_, &QLineEdit::textEdited, this, [this](const QString& t) { m_.Text1(0).text = t.toStdString(); });
-  connect(text4_, &QLineEdit::textEdited, this, [this](const QString& t) { m_.Text4.text = t.toStdString(); });
+  connect(text0_, &QLineEdit::textEdited, this,
+          [this](const QString& t) { m_.Text0.text = t.toStdString(); });
+  connect(text1_, &QLineEdit::textEdited, this,
+          [this](const QString& t) { m_.Text1(0).text = t.toStdString(); });
+  connect(text4_, &QLineEdit::textEdited, this,
+          [this](const QString& t) { m_.Text4.text = t.toStdString(); });
   for (int i = 0; i < 4; ++i) {
     connect(text2_[static_cast<std::size_t>(i)], &QLineEdit::textEdited, this,
             [this, i](const QString& t) { m_.Text2(i).text = t.toStdString(); });

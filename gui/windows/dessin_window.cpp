@@ -27,13 +27,16 @@ namespace {
 constexpr BoardControl kButtons[] = {C::Command1_0, C::Command1_1, C::Command1_2, C::DessCouple,
                                      C::Developer,  C::dessine,    C::Cancel};
 
-QString text(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+QString text(std::string_view s) {
+  return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
 QString captionOf(BoardControl c, int langue) { return text(board::caption(c, langue)); }
 QString nameOf(BoardControl c) { return text(board::controlName(c)); }
 
 }  // namespace
 
-DessinWindow::DessinWindow(Session& s) : QMainWindow(nullptr), s_(s), b_(board::loadBoard(s.store())) {
+DessinWindow::DessinWindow(Session& s)
+    : QMainWindow(nullptr), s_(s), b_(board::loadBoard(s.store())) {
   setObjectName("dessin");
   captionLangue_ = s.store().langue;
   buildControls();
@@ -72,8 +75,10 @@ void DessinWindow::buildControls() {
   widgets_[board::index(C::Label2)] = label2_;
   widgets_[board::index(C::Text1)] = text1_;
   widgets_[board::index(C::Text2)] = text2_;
-  connect(text1_, &QLineEdit::textEdited, this, [this](const QString& t) { b_.text1 = t.toStdString(); });
-  connect(text2_, &QLineEdit::textEdited, this, [this](const QString& t) { b_.text2 = t.toStdString(); });
+  connect(text1_, &QLineEdit::textEdited, this,
+          [this](const QString& t) { b_.text1 = t.toStdString(); });
+  connect(text2_, &QLineEdit::textEdited, this,
+          [this](const QString& t) { b_.text2 = t.toStdString(); });
   connect(text2_, &QLineEdit::returnPressed, this, &DessinWindow::text2Enter);
 }
 
@@ -153,8 +158,9 @@ void DessinWindow::syncFromModel() {
   if (text2_->text() != qtText(b_.text2)) text2_->setText(qtText(b_.text2));
   // The hull name's "background of the screen" is the window's own colour.
   QPalette p = text2_->palette();
-  p.setColor(QPalette::Base, b_.text2Background == board::kScreenBackground ? palette().color(QPalette::Window)
-                                                                           : qtColor(b_.text2Background));
+  p.setColor(QPalette::Base, b_.text2Background == board::kScreenBackground
+                                 ? palette().color(QPalette::Window)
+                                 : qtColor(b_.text2Background));
   text2_->setPalette(p);
 }
 

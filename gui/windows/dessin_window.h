@@ -47,7 +47,7 @@ class DessinWindow : public QMainWindow {
   // The dessine action: the full redraw (or `draw` in its place, for the
   // double click's fit), then the enabling of a redraw and its focus.
   void dessineAction(const std::function<void()>& draw = {});
-  void clearPicture();       // Cls of Plan1
+  void clearPicture();  // Cls of Plan1
   void text2Enter();
   // What the board's commands (board_commands.h) need of this window.
   BoardHooks hooks();

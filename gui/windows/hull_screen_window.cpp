@@ -10,7 +10,8 @@ HullScreenWindow::HullScreenWindow(Session& s, double widthTwips, double heightT
     : QDialog(nullptr), s_(s), t_(*this), width_(widthTwips), height_(heightTwips) {
   setWindowModality(Qt::ApplicationModal);
   const QSizeF display = displayTwips(*this);
-  setGeometry(t_.rect((display.width() - width_) / 2, (display.height() - height_) / 2, width_, height_));
+  setGeometry(
+      t_.rect((display.width() - width_) / 2, (display.height() - height_) / 2, width_, height_));
   setFixedSize(size());
 }
 

@@ -3,7 +3,6 @@
 #include <QCloseEvent>
 #include <QFocusEvent>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -27,45 +26,49 @@ Mass1Window::Mass1Window(analysis::Mass1& model, QWidget* parent) : QWidget(pare
   label1_ = new QLabel(this);
   top->addWidget(label1_);
 
-  auto* heads = new QGridLayout;
+  // One grid: the column heads, then each group's caption and rows, then
+  // the totals, so that every column lines up.
+  auto* grid = new QGridLayout;
+  grid->setColumnMinimumWidth(0, 150);
+  int line = 0;
   for (int c = 0; c < 4; ++c) {
     label2_[c] = new QLabel(this);
     label2_[c]->setWordWrap(true);
     label2_[c]->setAlignment(Qt::AlignCenter);
-    heads->addWidget(label2_[c], 0, c + 1);
+    label2_[c]->setFixedWidth(120);
+    grid->addWidget(label2_[c], line, c + 1);
   }
-  heads->setColumnMinimumWidth(0, 140);
-  top->addLayout(heads);
+  ++line;
 
-  auto addRow = [this](QGridLayout* grid, int line, int r) {
+  auto addRow = [this, grid](int at, int r) {
     label3_[r] = new QLabel(this);
-    label3_[r]->setMinimumWidth(130);
-    grid->addWidget(label3_[r], line, 0);
+    grid->addWidget(label3_[r], at, 0);
     for (int c = 0; c < 4; ++c) {
       if (!modelText(c + 1, r).visible) continue;
       auto* e = new QLineEdit(this);
       e->setObjectName(QString("Text%1(%2)").arg(c + 1).arg(r));
-      e->setMaximumWidth(110);
+      e->setFixedWidth(120);
       e->setReadOnly(modelText(c + 1, r).backColor == analysis::kResultPink);
       e->installEventFilter(this);
       connect(e, &QLineEdit::returnPressed, this, [this] {
         if (onEnter) onEnter();
       });
       text_[c][r] = e;
-      grid->addWidget(e, line, c + 1);
+      grid->addWidget(e, at, c + 1);
     }
   };
   for (int g = 0; g < 4; ++g) {
-    frame_[g] = new QGroupBox(this);
-    auto* grid = new QGridLayout(frame_[g]);
-    int line = 0;
+    frame_[g] = new QLabel(this);
+    QFont bold = frame_[g]->font();
+    bold.setBold(true);
+    frame_[g]->setFont(bold);
+    grid->addWidget(frame_[g], line++, 0, 1, 5);
     for (int r : kGroupRows[g])
-      if (r >= 0) addRow(grid, line++, r);
-    top->addWidget(frame_[g]);
+      if (r >= 0) addRow(line++, r);
   }
-  auto* totals = new QGridLayout;
-  addRow(totals, 0, 0);
-  top->addLayout(totals);
+  grid->setRowMinimumHeight(line++, 8);
+  addRow(line, 0);
+  top->addLayout(grid);
 
   calcul1_ = new QPushButton(this);
   calcul1_->setObjectName("Calcul1");
@@ -95,7 +98,7 @@ void Mass1Window::showModel() {
   label1_->setText(qtText(model_.Label1.caption));
   for (int c = 0; c < 4; ++c) showCaption(label2_[c], model_.Label2(c + 1));
   const Field* frames[4] = {&model_.Frame1, &model_.Frame2, &model_.Frame3, &model_.Frame4};
-  for (int g = 0; g < 4; ++g) frame_[g]->setTitle(qtText(frames[g]->caption));
+  for (int g = 0; g < 4; ++g) frame_[g]->setText(qtText(frames[g]->caption));
   for (int r = 0; r <= analysis::kLastMassRow; ++r) {
     if (label3_[r]) showCaption(label3_[r], model_.Label3(r));
     for (int c = 0; c < 4; ++c)

@@ -9,7 +9,6 @@
 
 #include "analysis/mass_screen.h"
 
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -43,7 +42,7 @@ class Mass1Window : public QWidget {
   QLabel* label3_[analysis::kLastMassRow + 1] = {};
   QLabel* label2_[4];
   QLabel* label1_;
-  QGroupBox* frame_[4];
+  QLabel* frame_[4];  // group captions, one grid for all rows so that columns align
   QPushButton* calcul1_;
 };
 

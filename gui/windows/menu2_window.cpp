@@ -35,7 +35,8 @@ Menu2Window::Menu2Window(Session& s)
   label3_->setWordWrap(true);
   for (int i = 0; i < 2; ++i) {
     langue_[static_cast<std::size_t>(i)]->setObjectName(QStringLiteral("Langue1(%1)").arg(i));
-    connect(langue_[static_cast<std::size_t>(i)], &QRadioButton::clicked, this, [this, i] { langueClicked(i); });
+    connect(langue_[static_cast<std::size_t>(i)], &QRadioButton::clicked, this,
+            [this, i] { langueClicked(i); });
   }
   connect(create_, &QPushButton::clicked, this, &Menu2Window::createClicked);
   connect(terminate_, &QPushButton::clicked, this, &Menu2Window::terminateClicked);

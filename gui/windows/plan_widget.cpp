@@ -53,13 +53,15 @@ void PlanWidget::resizeEvent(QResizeEvent*) {
 
 void PlanWidget::mousePressEvent(QMouseEvent* e) {
   const QPointF u = toUnits(e->position());
-  mouse_->buttonDown(planButtons(e->button()), static_cast<float>(u.x()), static_cast<float>(u.y()));
+  mouse_->buttonDown(planButtons(e->button()), static_cast<float>(u.x()),
+                     static_cast<float>(u.y()));
   update();
 }
 
 void PlanWidget::mouseMoveEvent(QMouseEvent* e) {
   const QPointF u = toUnits(e->position());
-  mouse_->mouseMove(planButtons(e->buttons()), static_cast<float>(u.x()), static_cast<float>(u.y()));
+  mouse_->mouseMove(planButtons(e->buttons()), static_cast<float>(u.x()),
+                    static_cast<float>(u.y()));
   update();
 }
 

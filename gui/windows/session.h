@@ -66,7 +66,8 @@ class Session : public QObject {
   void run(const board::Action& a);
   void showModal(board::ScreenId s, board::Actions rest);
   QWidget* window(board::ScreenId s, bool load);
-  void runOnBoard(board::BoardControl c);  // the board's commands: files, exports, prints, develop, station
+  void runOnBoard(
+      board::BoardControl c);  // the board's commands: files, exports, prints, develop, station
 
   std::unique_ptr<HullStore> h_;
   std::unique_ptr<Menu2Window, DeleteLater> menu2_;
@@ -75,7 +76,7 @@ class Session : public QObject {
   std::unique_ptr<Bouchain2Window, DeleteLater> bouchain2_;
   std::unique_ptr<Bouchain3Window, DeleteLater> bouchain3_;
   std::map<board::ScreenId, board::Actions> afterModal_;  // steps waiting for a modal screen
-  std::vector<board::Actions> due_;                         // of screens hidden meanwhile
+  std::vector<board::Actions> due_;                       // of screens hidden meanwhile
   int depth_ = 0;
   bool ended_ = false;
 };

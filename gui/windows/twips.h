@@ -36,7 +36,8 @@ QSizeF displayTwips(const QWidget& w);
 
 // Sets w's geometry (within its parent) from twips.
 void place(QWidget* w, const Twips& t, const board::Rect& r);
-inline void place(QWidget* w, const Twips& t, double left, double top, double width, double height) {
+inline void place(QWidget* w, const Twips& t, double left, double top, double width,
+                  double height) {
   place(w, t, board::Rect{left, top, width, height});
 }
 

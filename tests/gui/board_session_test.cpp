@@ -108,7 +108,8 @@ class BoardSessionTest : public QObject {
       QAction* a = d.action(e.control);
       QVERIFY2(a != nullptr, board::controlName(e.control).data());
       QCOMPARE(a->isSeparator(), e.separator);
-      QCOMPARE(a->shortcut(), QKeySequence(QString::fromUtf8(e.key.data(), static_cast<int>(e.key.size()))));
+      QCOMPARE(a->shortcut(),
+               QKeySequence(QString::fromUtf8(e.key.data(), static_cast<int>(e.key.size()))));
     }
     QCOMPARE(d.action(C::fmenu_New)->shortcut(), QKeySequence("Ctrl+N"));
     QCOMPARE(d.action(C::fmenu_Quit)->shortcut(), QKeySequence("Ctrl+Q"));
@@ -133,7 +134,8 @@ class BoardSessionTest : public QObject {
     Started p;
     p.createAndValidate();
     p.board().activateWindow();
-    if (!QTest::qWaitForWindowActive(&p.board(), 2000)) QSKIP("no window activation on this platform");
+    if (!QTest::qWaitForWindowActive(&p.board(), 2000))
+      QSKIP("no window activation on this platform");
     QTest::keyClick(&p.board(), Qt::Key_Q, Qt::ControlModifier);
     QVERIFY(p.s->menu2().isVisible());
   }
@@ -196,12 +198,21 @@ class BoardSessionTest : public QObject {
     QTest::addColumn<QString>("kept");
     QTest::addColumn<int>("colour");  // -1 the screen's own
     QTest::addColumn<int>("beeps");
-    QTest::newRow("2 refused") << "ab" << "TOLMAR" << "TOLMAR2005" << int(rgb(255, 127, 0)) << 1;
-    QTest::newRow("3 taken") << "abc" << "ABC" << "ABC" << -1 << 0;
-    QTest::newRow("15 taken") << "abcdefghijklmno" << "ABCDEFGHIJKLMNO" << "ABCDEFGHIJKLMNO" << -1 << 0;
-    QTest::newRow("16 cut") << "abcdefghijklmnop" << "ABCDEFGHIJKLMNO" << "ABCDEFGHIJKLMNO" << int(rgb(255, 255, 0))
-                            << 0;
-    QTest::newRow("accents") << "bélouga" << "BÉLOUGA" << "BÉLOUGA" << -1 << 0;
+    QTest::newRow("2 refused") << "ab"
+                               << "TOLMAR"
+                               << "TOLMAR2005" << int(rgb(255, 127, 0)) << 1;
+    QTest::newRow("3 taken") << "abc"
+                             << "ABC"
+                             << "ABC" << -1 << 0;
+    QTest::newRow("15 taken") << "abcdefghijklmno"
+                              << "ABCDEFGHIJKLMNO"
+                              << "ABCDEFGHIJKLMNO" << -1 << 0;
+    QTest::newRow("16 cut") << "abcdefghijklmnop"
+                            << "ABCDEFGHIJKLMNO"
+                            << "ABCDEFGHIJKLMNO" << int(rgb(255, 255, 0)) << 0;
+    QTest::newRow("accents") << "bélouga"
+                             << "BÉLOUGA"
+                             << "BÉLOUGA" << -1 << 0;
   }
 
   void hullNameEnterRule() {
@@ -218,7 +229,8 @@ class BoardSessionTest : public QObject {
     QCOMPARE(t2->text(), shown);
     QCOMPARE(QString::fromStdString(p.h().hullName), kept);
     QCOMPARE(p.beeps, beeps);
-    const QColor expected = colour == -1 ? p.board().palette().color(QPalette::Window) : gui::qtColor(colour);
+    const QColor expected =
+        colour == -1 ? p.board().palette().color(QPalette::Window) : gui::qtColor(colour);
     QCOMPARE(t2->palette().color(QPalette::Base), expected);
   }
 
@@ -242,7 +254,8 @@ class BoardSessionTest : public QObject {
     gui::DessinWindow& d = p.board();
     const QRect plan = d.plan().geometry();
     const board::BoardLayout before = d.layout();
-    for (QSize s : {QSize(1, 1), QSize(10, 10), QSize(300, 120), QSize(2000, 80), QSize(80, 2000)}) {
+    for (QSize s :
+         {QSize(1, 1), QSize(10, 10), QSize(300, 120), QSize(2000, 80), QSize(80, 2000)}) {
       d.resize(s);
       QCoreApplication::processEvents();
       QCOMPARE(d.plan().geometry(), plan);  // below the limits nothing moves

@@ -24,10 +24,11 @@ namespace tolmar::test {
 // after the test library has put its own handler in place.
 inline QtMessageHandler previousHandler = nullptr;
 inline void quietOffscreen() {
-  previousHandler = qInstallMessageHandler([](QtMsgType t, const QMessageLogContext& c, const QString& m) {
-    if (t == QtWarningMsg && m.startsWith("This plugin does not support")) return;
-    if (previousHandler) previousHandler(t, c, m);
-  });
+  previousHandler =
+      qInstallMessageHandler([](QtMsgType t, const QMessageLogContext& c, const QString& m) {
+        if (t == QtWarningMsg && m.startsWith("This plugin does not support")) return;
+        if (previousHandler) previousHandler(t, c, m);
+      });
 }
 
 // A program started as at launch, with its beeps counted.

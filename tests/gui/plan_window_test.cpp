@@ -25,7 +25,9 @@ void drag(QWidget* w, Qt::MouseButton b, QPoint from, QPoint to) {
 
 struct View {
   float scaleX, scaleY, scaleZ, originX, originY, originZ;
-  static View of(const HullStore& h) { return {h.scaleX, h.scaleY, h.scaleZ, h.originX, h.originY, h.originZ}; }
+  static View of(const HullStore& h) {
+    return {h.scaleX, h.scaleY, h.scaleZ, h.originX, h.originY, h.originZ};
+  }
 };
 
 }  // namespace
@@ -53,7 +55,8 @@ class PlanWindowTest : public QObject {
 
     QVERIFY(p.h().scaleX > scale);
     QVERIFY(!plan.mouse().dragging());
-    QCOMPARE(plan.picture(), test::viewsAsDrawn(p.h(), plan.picture().size(), p.board().state().stepIndex));
+    QCOMPARE(plan.picture(),
+             test::viewsAsDrawn(p.h(), plan.picture().size(), p.board().state().stepIndex));
   }
 
   void dragEitherWayZoomsToTheSameView() {
@@ -96,7 +99,8 @@ class PlanWindowTest : public QObject {
     QCOMPARE(p.h().originX, static_cast<float>(before.originX + (to.x() - from.x())));
     QCOMPARE(p.h().originY - before.originY, p.h().originZ - before.originZ);
     QVERIFY(p.h().originY < before.originY);
-    QCOMPARE(plan.picture(), test::viewsAsDrawn(p.h(), plan.picture().size(), p.board().state().stepIndex));
+    QCOMPARE(plan.picture(),
+             test::viewsAsDrawn(p.h(), plan.picture().size(), p.board().state().stepIndex));
   }
 
   void doubleClickFitsAgain() {
