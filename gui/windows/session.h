@@ -66,8 +66,8 @@ class Session : public QObject {
   void run(const board::Action& a);
   void showModal(board::ScreenId s, board::Actions rest);
   QWidget* window(board::ScreenId s, bool load);
-  void runOnBoard(
-      board::BoardControl c);  // the board's commands: files, exports, prints, develop, station
+  // The board's commands: files, exports, prints, develop, station.
+  void runOnBoard(board::BoardControl c);
 
   std::unique_ptr<HullStore> h_;
   std::unique_ptr<Menu2Window, DeleteLater> menu2_;
