@@ -41,14 +41,18 @@ AnalysisWindows::AnalysisWindows(HullStore& h, QWidget* board)
   };
 
   hydro_->onCalcul = [this] { run([this] { calcHydro(screens_.hydro, h_); }); };
-  hydro_->onOption = [this](int n) { run([this, n] { selectHydroOption(screens_.hydro, h_, n); }); };
+  hydro_->onOption = [this](int n) {
+    run([this, n] { selectHydroOption(screens_.hydro, h_, n); });
+  };
   hydro_->onEnter = [this](int n) {
     run([this, n] { hydroKeyPress(screens_.hydro, h_, n, analysis::kEnterKey); });
   };
   hydro_->onQuit = [this] { quit(); };
   hydro_->onClose = [this] { run([this] { screens_.closeHydro(); }); };
   mass_->onCalcul = [this] { run([this] { screens_.pushDisplacement(); }); };
-  mass_->onEnter = [this] { run([this] { massKeyPress(screens_.mass, h_, analysis::kEnterKey); }); };
+  mass_->onEnter = [this] {
+    run([this] { massKeyPress(screens_.mass, h_, analysis::kEnterKey); });
+  };
   mass_->onFieldLeft = [this] {
     if (!running_) run([this] { massFieldLeft(screens_.mass, h_); });
   };
@@ -96,7 +100,7 @@ void AnalysisWindows::showWindows() {
 }
 
 void AnalysisWindows::giveFocus() {
-  QWidget* want = screens_.active() == ActiveScreen::hydro1 ? static_cast<QWidget*>(hydro_.data())
+  QWidget* want = screens_.active() == ActiveScreen::hydro1  ? static_cast<QWidget*>(hydro_.data())
                   : screens_.active() == ActiveScreen::mass1 ? static_cast<QWidget*>(mass_.data())
                                                              : nullptr;
   if (!want || !want->isVisible() || want->isActiveWindow()) return;
@@ -107,7 +111,8 @@ void AnalysisWindows::giveFocus() {
 
 void AnalysisWindows::place() {
   placed_ = true;
-  QScreen* screen = board_ && board_->screen() ? board_->screen() : QGuiApplication::primaryScreen();
+  QScreen* screen =
+      board_ && board_->screen() ? board_->screen() : QGuiApplication::primaryScreen();
   if (!screen) return;
   const double twips = 1440.0 / screen->logicalDotsPerInch();
   const QRect display = screen->availableGeometry();
@@ -116,8 +121,10 @@ void AnalysisWindows::place() {
   const auto hp = analysis::hydroPlace(display.width() * twips, hydro_->width() * twips);
   const auto mp = analysis::massPlace(display.width() * twips, display.height() * twips,
                                       mass_->width() * twips, mass_->height() * twips);
-  hydro_->move(display.left() + static_cast<int>(hp.left / twips), display.top() + static_cast<int>(hp.top / twips));
-  mass_->move(display.left() + static_cast<int>(mp.left / twips), display.top() + static_cast<int>(mp.top / twips));
+  hydro_->move(display.left() + static_cast<int>(hp.left / twips),
+               display.top() + static_cast<int>(hp.top / twips));
+  mass_->move(display.left() + static_cast<int>(mp.left / twips),
+              display.top() + static_cast<int>(mp.top / twips));
 }
 
 void AnalysisWindows::quit() {

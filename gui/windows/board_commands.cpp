@@ -33,7 +33,9 @@ void refresh(const BoardHooks& hooks) {
   if (hooks.refresh) hooks.refresh();
 }
 
-DrawingSurface* picture(const BoardHooks& hooks) { return hooks.picture ? hooks.picture() : nullptr; }
+DrawingSurface* picture(const BoardHooks& hooks) {
+  return hooks.picture ? hooks.picture() : nullptr;
+}
 
 void pictureChanged(const BoardHooks& hooks) {
   if (hooks.pictureChanged) hooks.pictureChanged();
@@ -62,7 +64,8 @@ class BoardTouches {
   CmDialog1& files_;
 };
 
-void drawOnPicture(CmDialog1& files, const BoardHooks& hooks, const std::function<void(DrawingSurface&)>& draw) {
+void drawOnPicture(CmDialog1& files, const BoardHooks& hooks,
+                   const std::function<void(DrawingSurface&)>& draw) {
   DrawingSurface* plan = picture(hooks);
   if (!plan) return;
   files.setBusy(true);
@@ -78,7 +81,8 @@ void openPair(BoardWindows& w, const BoardHooks& hooks) {
   a.open();
 }
 
-void command(BoardWindows& w, HullStore& h, board::BoardState& b, BoardControl c, const BoardHooks& hooks) {
+void command(BoardWindows& w, HullStore& h, board::BoardState& b, BoardControl c,
+             const BoardHooks& hooks) {
   CmDialog1& files = w.files();
   switch (c) {
     case C::fmenu_New: {
@@ -87,29 +91,50 @@ void command(BoardWindows& w, HullStore& h, board::BoardState& b, BoardControl c
       perform(hooks, next);
       break;
     }
-    case C::fmenu_Open: openHull(w, h, b, hooks); break;
-    case C::fmenu_S_Data: saveHull(w, h, b, hooks); break;
-    case C::fmenu_S_XYZ: (void)saveLinesXyz(files, h); break;
-    case C::fmenu_S_DXF2D: (void)saveLines2D(files, h); break;
-    case C::fmenu_S_DXF3D: (void)saveLines3D(files, h); break;
-    case C::fmenu_SD_XYZ: saveDevelopedXyz(files, h, b.stepIndex); break;
+    case C::fmenu_Open:
+      openHull(w, h, b, hooks);
+      break;
+    case C::fmenu_S_Data:
+      saveHull(w, h, b, hooks);
+      break;
+    case C::fmenu_S_XYZ:
+      (void)saveLinesXyz(files, h);
+      break;
+    case C::fmenu_S_DXF2D:
+      (void)saveLines2D(files, h);
+      break;
+    case C::fmenu_S_DXF3D:
+      (void)saveLines3D(files, h);
+      break;
+    case C::fmenu_SD_XYZ:
+      saveDevelopedXyz(files, h, b.stepIndex);
+      break;
     case C::fmenu_SD_DXF:
       if (!w.overlapAnswered) w.overlap().run();
       w.overlapAnswered = false;
       saveDevelopedDxf(files, h, b.stepIndex);
       break;
-    case C::fmenu_Station_DXF: (void)stationFileDXF(files, h, h.stationIndex); break;
-    case C::fmenu_S_VRML: (void)saveVrml(files, h); break;
-    case C::Hmenu: openPair(w, hooks); break;
+    case C::fmenu_Station_DXF:
+      (void)stationFileDXF(files, h, h.stationIndex);
+      break;
+    case C::fmenu_S_VRML:
+      (void)saveVrml(files, h);
+      break;
+    case C::Hmenu:
+      openPair(w, hooks);
+      break;
     case C::DessCouple:
       board::drawStationState(b, h);
       refresh(hooks);
       drawOnPicture(files, hooks, [&h](DrawingSurface& s) { drawStation(s, h); });
       break;
     case C::Developer:
-      drawOnPicture(files, hooks, [&h, &b](DrawingSurface& s) { developerDisplay(s, h, b.stepIndex); });
+      drawOnPicture(files, hooks,
+                    [&h, &b](DrawingSurface& s) { developerDisplay(s, h, b.stepIndex); });
       break;
-    default: printEntry(w, h, b, c); break;
+    default:
+      printEntry(w, h, b, c);
+      break;
   }
 }
 
@@ -149,7 +174,8 @@ void BoardWindows::setUnattended(bool on) {
   printers_->setUnattended(on);
 }
 
-void runBoardCommand(QWidget* board, HullStore& h, board::BoardState& b, BoardControl c, const BoardHooks& hooks) {
+void runBoardCommand(QWidget* board, HullStore& h, board::BoardState& b, BoardControl c,
+                     const BoardHooks& hooks) {
   if (!board) return;
   BoardWindows& w = BoardWindows::of(board, h);
   BoardTouches touches(w.files(), b, hooks);
@@ -162,7 +188,8 @@ void runBoardCommand(QWidget* board, HullStore& h, board::BoardState& b, BoardCo
   }
 }
 
-void showBoardScreen(QWidget* board, HullStore& h, board::BoardState& b, ScreenId s, const BoardHooks& hooks) {
+void showBoardScreen(QWidget* board, HullStore& h, board::BoardState& b, ScreenId s,
+                     const BoardHooks& hooks) {
   (void)b;
   if (!board) return;
   BoardWindows& w = BoardWindows::of(board, h);
@@ -171,12 +198,15 @@ void showBoardScreen(QWidget* board, HullStore& h, board::BoardState& b, ScreenI
       w.overlap().run();
       w.overlapAnswered = true;
       break;
-    case ScreenId::hydro1: openPair(w, hooks); break;
+    case ScreenId::hydro1:
+      openPair(w, hooks);
+      break;
     case ScreenId::mass1:
       // Hmenu shows hydro1 then mass1; the pair opens at the first.
       if (!w.analysis().screens().mass.visible) openPair(w, hooks);
       break;
-    default: break;
+    default:
+      break;
   }
 }
 

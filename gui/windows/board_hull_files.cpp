@@ -40,8 +40,8 @@ std::string notAHull(const std::string& path, const HullStore& read) {
 
 void openHull(BoardWindows& w, HullStore& h, board::BoardState& b, const BoardHooks& hooks) {
   CmDialog1& files = w.files();
-  const auto choice =
-      files.askOpenFile({std::nullopt, "Data Tolmar2000|*.D50|Old Data (*.D51)|*.D51", "Tolmar.D50", "tolmar"});
+  const auto choice = files.askOpenFile(
+      {std::nullopt, "Data Tolmar2000|*.D50|Old Data (*.D51)|*.D51", "Tolmar.D50", "tolmar"});
   if (!choice) return;
 
   // Read into a copy: a refused file leaves the hull in memory as it was.
@@ -72,8 +72,8 @@ void openHull(BoardWindows& w, HullStore& h, board::BoardState& b, const BoardHo
 
 void saveHull(BoardWindows& w, HullStore& h, board::BoardState& b, const BoardHooks& hooks) {
   CmDialog1& files = w.files();
-  const auto choice =
-      files.askSaveFile({std::nullopt, "Data Tolmar2000|*.D50|All files|*.*", h.hullName + ".D50", "Tolmar2000"});
+  const auto choice = files.askSaveFile(
+      {std::nullopt, "Data Tolmar2000|*.D50|All files|*.*", h.hullName + ".D50", "Tolmar2000"});
   if (!choice) return;  // a cancelled save is no failure
 
   files.setBusy(true);

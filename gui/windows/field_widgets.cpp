@@ -9,7 +9,8 @@ namespace tolmar::gui {
 
 QColor qtColor(std::int32_t rgb) {
   const auto v = static_cast<std::uint32_t>(rgb);
-  return QColor(static_cast<int>(v & 0xFF), static_cast<int>((v >> 8) & 0xFF), static_cast<int>((v >> 16) & 0xFF));
+  return QColor(static_cast<int>(v & 0xFF), static_cast<int>((v >> 8) & 0xFF),
+                static_cast<int>((v >> 16) & 0xFF));
 }
 
 QString qtText(const std::string& utf8) { return QString::fromStdString(utf8); }

@@ -11,7 +11,9 @@ namespace tolmar::gui {
 
 namespace {
 
-QString qs(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+QString qs(std::string_view s) {
+  return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
 
 // The patterns of one filter entry as Qt lists them, blank-separated.
 QString qtPatterns(const QString& patterns) {
@@ -51,7 +53,7 @@ CmDialog1::CmDialog1(QWidget* parent) : parent_(parent) {}
 
 CmDialog1::~CmDialog1() {
   setBusy(false);
-  delete dialog_;
+  delete dialog_.data();
 }
 
 QString CmDialog1::resolveFolder(const std::string& folder) {
@@ -101,14 +103,16 @@ std::optional<SaveChoice> CmDialog1::ask(DialogKind kind, const SaveRequest& req
   } else {
     if (!dialog_) dialog_ = new QFileDialog(parent_);
     QFileDialog& d = *dialog_;
-    d.setWindowTitle(title_);
+    // Until a title is given, the dialog keeps the platform's own.
+    if (!title_.isEmpty()) d.setWindowTitle(title_);
     d.setAcceptMode(kind == DialogKind::save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     d.setFileMode(kind == DialogKind::save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     d.setOption(QFileDialog::DontConfirmOverwrite, true);
     d.setNameFilter(asked.filter);
     d.setDirectory(folder_);
     d.selectFile(asked.name);
-    if (d.exec() == QDialog::Accepted && !d.selectedFiles().isEmpty()) chosen = d.selectedFiles().first();
+    if (d.exec() == QDialog::Accepted && !d.selectedFiles().isEmpty())
+      chosen = d.selectedFiles().first();
   }
   if (wasBusy) setBusy(true);
   if (!chosen || chosen->isEmpty()) return std::nullopt;

@@ -6,6 +6,8 @@
 // it, and read the messages instead of seeing them.
 #pragma once
 
+#include <QFileDialog>
+#include <QPointer>
 #include <QString>
 #include <deque>
 #include <functional>
@@ -16,7 +18,6 @@
 
 #include "export/export_host.h"
 
-class QFileDialog;
 class QWidget;
 
 namespace tolmar::gui {
@@ -90,7 +91,7 @@ class CmDialog1 : public ExportHost {
   std::optional<SaveChoice> ask(DialogKind kind, const SaveRequest& request);
 
   QWidget* parent_;
-  QFileDialog* dialog_ = nullptr;  // made at first use, kept for the program's life
+  QPointer<QFileDialog> dialog_;  // made at first use, kept for the program's life
   QString title_;
   QString folder_;
   bool busy_ = false;

@@ -20,7 +20,8 @@ constexpr int kGroupRows[4][6] = {
 
 }  // namespace
 
-Mass1Window::Mass1Window(analysis::Mass1& model, QWidget* parent) : QWidget(parent, Qt::Window), model_(model) {
+Mass1Window::Mass1Window(analysis::Mass1& model, QWidget* parent)
+    : QWidget(parent, Qt::Window), model_(model) {
   setObjectName("mass1");
   auto* top = new QVBoxLayout(this);
   label1_ = new QLabel(this);
@@ -81,10 +82,14 @@ Mass1Window::Mass1Window(analysis::Mass1& model, QWidget* parent) : QWidget(pare
 
 Field& Mass1Window::modelText(int column, int row) {
   switch (column) {
-    case 1: return model_.Text1(row);
-    case 2: return model_.Text2(row);
-    case 3: return model_.Text3(row);
-    default: return model_.Text4(row);
+    case 1:
+      return model_.Text1(row);
+    case 2:
+      return model_.Text2(row);
+    case 3:
+      return model_.Text3(row);
+    default:
+      return model_.Text4(row);
   }
 }
 

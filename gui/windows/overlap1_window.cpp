@@ -46,7 +46,8 @@ void Overlap1Window::build() {
   for (int k = 0; k < 6; ++k) {
     auto* label = new QLabel(this);
     auto* edit = new QLineEdit(this);
-    edit->setObjectName(QString("Text%1(%2)").arg(static_cast<int>(order[k].g) + 1).arg(order[k].index));
+    edit->setObjectName(
+        QString("Text%1(%2)").arg(static_cast<int>(order[k].g) + 1).arg(order[k].index));
     edit->setMaximumWidth(120);
     label9_[k] = new QLabel(this);
     slots_[k] = {order[k].g, order[k].index, edit, label};

@@ -33,12 +33,23 @@ bool printEntry(BoardWindows& w, HullStore& h, board::BoardState& b, board::Boar
   const int step = b.stepIndex;
   std::function<void(PrintJob&)> pages;
   switch (c) {
-    case C::fmenu_P_Data: pages = [](PrintJob& job) { fmenu_P_Data(job); }; break;
-    case C::fmenu_P_Dessin: pages = [step](PrintJob& job) { fmenu_P_Dessin(job, step); }; break;
-    case C::fmenu_P_Develop: pages = [step](PrintJob& job) { fmenu_P_Develop(job, step); }; break;
-    case C::fmenu_P_Station: pages = [](PrintJob& job) { fmenu_P_Station(job); }; break;
-    case C::fmenu_P_Tout: pages = [step](PrintJob& job) { fmenu_P_Tout(job, step); }; break;
-    default: return false;
+    case C::fmenu_P_Data:
+      pages = [](PrintJob& job) { fmenu_P_Data(job); };
+      break;
+    case C::fmenu_P_Dessin:
+      pages = [step](PrintJob& job) { fmenu_P_Dessin(job, step); };
+      break;
+    case C::fmenu_P_Develop:
+      pages = [step](PrintJob& job) { fmenu_P_Develop(job, step); };
+      break;
+    case C::fmenu_P_Station:
+      pages = [](PrintJob& job) { fmenu_P_Station(job); };
+      break;
+    case C::fmenu_P_Tout:
+      pages = [step](PrintJob& job) { fmenu_P_Tout(job, step); };
+      break;
+    default:
+      return false;
   }
   printDocument(w.files(), w.printers(), h, [&](DrawingSurface& s) {
     PrintJob job{s, h, host};

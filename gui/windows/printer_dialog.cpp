@@ -27,7 +27,8 @@ class Busy {
 };
 
 // Runs the pages; false with the reason when `draw` threw.
-bool drawPages(DrawingSurface& s, const std::function<void(DrawingSurface&)>& draw, std::string& why) {
+bool drawPages(DrawingSurface& s, const std::function<void(DrawingSurface&)>& draw,
+               std::string& why) {
   try {
     draw(s);
     return true;
@@ -72,7 +73,8 @@ PrintOutcome printToPrinter(CmDialog1& files, QPrinter& printer,
   std::string why;
   Busy busy(files);
   qtdraw::PagedSurface surface(printer);
-  if (!surface.active()) return fail(files, "The printer " + printer.printerName().toStdString() + " is not ready");
+  if (!surface.active())
+    return fail(files, "The printer " + printer.printerName().toStdString() + " is not ready");
   if (!drawPages(surface, draw, why)) return fail(files, why);
   if (surface.active()) surface.EndDoc();
   if (printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted)
@@ -109,9 +111,11 @@ PrintOutcome printDocument(CmDialog1& files, CmDialog2& printers, const HullStor
 
   // A file named in the printer dialog is used as it is; otherwise asked.
   QString path;
-  if (!printers.pdfOnly && printer.outputFormat() == QPrinter::PdfFormat) path = printer.outputFileName();
+  if (!printers.pdfOnly && printer.outputFormat() == QPrinter::PdfFormat)
+    path = printer.outputFileName();
   if (path.isEmpty()) {
-    const auto choice = files.askSaveFile({std::string(kPdfTitle), kPdfFilter, h.hullName + ".PDF", std::nullopt});
+    const auto choice =
+        files.askSaveFile({std::string(kPdfTitle), kPdfFilter, h.hullName + ".PDF", std::nullopt});
     if (!choice) return PrintOutcome::cancelled;
     path = QString::fromStdString(choice->path);
   }

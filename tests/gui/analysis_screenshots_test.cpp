@@ -12,11 +12,11 @@
 #include <QPushButton>
 #include <QtTest>
 
+#include "board_session_util.h"
 #include "development/hull_fixture.h"
 #include "windows/analysis_windows.h"
 #include "windows/board_commands.h"
 #include "windows/overlap1_window.h"
-#include "board_session_util.h"
 #include "windows_test_util.h"
 
 using namespace tolmar;
@@ -122,10 +122,12 @@ void AnalysisScreenshotsTest::waitOn21Lines() {
   QCoreApplication::processEvents();  // hydro1 painted with the result
   const qint64 calcul = clock.elapsed();
   QVERIFY(!pair.hydroWindow()->text1(0)->text().isEmpty());
-  qInfo("21 lines (%s): Develop to the patterns drawn %lld ms; Calcul1 of mass1 to the result shown %lld ms "
-        "(%d outer, %d inner solver passes)",
-        qPrintable(QGuiApplication::platformName()), develop, calcul, pair.screens().hydro.last.outerPasses,
-        pair.screens().hydro.last.innerPasses);
+  qInfo(
+      "21 lines (%s): Develop to the patterns drawn %lld ms; Calcul1 of mass1 to the result shown "
+      "%lld ms "
+      "(%d outer, %d inner solver passes)",
+      qPrintable(QGuiApplication::platformName()), develop, calcul,
+      pair.screens().hydro.last.outerPasses, pair.screens().hydro.last.innerPasses);
 
   // An engine far aft: the solver trims the hull, pass after pass.
   pair.activated(analysis::ActiveScreen::mass1);
@@ -135,8 +137,10 @@ void AnalysisScreenshotsTest::waitOn21Lines() {
   QTest::mouseClick(pair.massWindow()->calcul1(), Qt::LeftButton);
   QCoreApplication::processEvents();
   const qint64 trimmed = clock.elapsed();
-  qInfo("21 lines, engine aft: Calcul1 of mass1 to the result shown %lld ms (%d outer, %d inner solver passes)",
-        trimmed, pair.screens().hydro.last.outerPasses, pair.screens().hydro.last.innerPasses);
+  qInfo(
+      "21 lines, engine aft: Calcul1 of mass1 to the result shown %lld ms (%d outer, %d inner "
+      "solver passes)",
+      trimmed, pair.screens().hydro.last.outerPasses, pair.screens().hydro.last.innerPasses);
 }
 
 QTEST_MAIN(AnalysisScreenshotsTest)

@@ -3,6 +3,8 @@
 // solver repainting while it runs, activation passing between the two,
 // closing by the frame, and cdQuit drawing the water line on the board's
 // picture.  Also times a click on Calcul1 on a 21-line hull.
+#include "windows/analysis_windows.h"
+
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,7 +16,6 @@
 #include "board/views.h"
 #include "development/hull_fixture.h"
 #include "qtdraw/image_surface.h"
-#include "windows/analysis_windows.h"
 
 using namespace tolmar;
 using namespace tolmar::gui;
@@ -101,7 +102,8 @@ void AnalysisWindowsTest::calcul1OfMassHandsTheDisplacementOver() {
   // tolerance, and the comment names a chine.
   const double shown = hydro()->text1(0)->text().toDouble();
   QVERIFY2(std::fabs(shown - total / 1000) <= 0.0011, qPrintable(hydro()->text1(0)->text()));
-  QVERIFY(hydro()->label2(0)->text().contains("immersed") || hydro()->label2(0)->text().contains("keel"));
+  QVERIFY(hydro()->label2(0)->text().contains("immersed") ||
+          hydro()->label2(0)->text().contains("keel"));
   QVERIFY(hydro()->label2(1)->text().startsWith("Waterline plane area  = "));
 }
 
@@ -139,8 +141,9 @@ void AnalysisWindowsTest::solverRepaintsWhileItRuns() {
   QVERIFY(hydro()->option1(0)->isChecked());
   hydro()->text1(0)->setText("0.4");
   QTest::mouseClick(hydro()->calcul1(), Qt::LeftButton);
-  QVERIFY2(heights.size() >= 3, qPrintable(heights.join(' ') + " passes " +
-                                           QString::number(pair_->screens().hydro.last.innerPasses)));
+  QVERIFY2(heights.size() >= 3,
+           qPrintable(heights.join(' ') + " passes " +
+                      QString::number(pair_->screens().hydro.last.innerPasses)));
   heights.removeDuplicates();
   QVERIFY(heights.size() >= 2);
 }

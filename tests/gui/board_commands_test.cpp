@@ -4,6 +4,10 @@
 // front of the developed DXF, hull files in old and current layouts, and
 // the error paths (not a hull, no write permission, a full disk, a cancel)
 // leaving the hull in memory and the files on disk as they were.
+#include "windows/board_commands.h"
+
+#include <sys/resource.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -13,7 +17,6 @@
 #include <QtTest>
 #include <csignal>
 #include <memory>
-#include <sys/resource.h>
 
 #include "board/board_model.h"
 #include "board/views.h"
@@ -25,7 +28,6 @@
 #include "export/xyz_files.h"
 #include "qtdraw/image_surface.h"
 #include "windows/analysis_windows.h"
-#include "windows/board_commands.h"
 #include "windows/command_steps.h"
 #include "windows/file_dialog.h"
 #include "windows/overlap1_window.h"
@@ -59,7 +61,9 @@ class DiskFull {
   rlimit old_{};
 };
 
-QStringList filesIn(const QString& dir) { return QDir(dir).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+QStringList filesIn(const QString& dir) {
+  return QDir(dir).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
 
 }  // namespace
 
@@ -134,7 +138,9 @@ void BoardCommandsTest::init() {
   performed_.clear();
   refreshes_ = pictureChanges_ = 0;
   hooks_.refresh = [this] { ++refreshes_; };
-  hooks_.perform = [this](const board::Actions& a) { performed_.insert(performed_.end(), a.begin(), a.end()); };
+  hooks_.perform = [this](const board::Actions& a) {
+    performed_.insert(performed_.end(), a.begin(), a.end());
+  };
   hooks_.picture = [this] { return plan_.get(); };
   hooks_.pictureChanged = [this] { ++pictureChanges_; };
   BoardWindows& w = BoardWindows::of(board_.get(), *h_);
@@ -194,7 +200,8 @@ void BoardCommandsTest::hullNameFollowsTheDxfFile() {
 }
 
 void BoardCommandsTest::cancelledExportLeavesNothing() {
-  for (C c : {C::fmenu_S_XYZ, C::fmenu_S_DXF2D, C::fmenu_S_DXF3D, C::fmenu_S_VRML, C::fmenu_S_Data}) {
+  for (C c :
+       {C::fmenu_S_XYZ, C::fmenu_S_DXF2D, C::fmenu_S_DXF3D, C::fmenu_S_VRML, C::fmenu_S_Data}) {
     files().answerWith(std::nullopt);
     run(c);
   }
@@ -220,7 +227,8 @@ void BoardCommandsTest::developmentXyzOneDialogPerFileCancelGoesOn() {
   QCOMPARE(static_cast<int>(files().asked().size()), n);
   QCOMPARE(files().answersLeft(), std::size_t{0});
   QCOMPARE(filesIn(dir_->path()).size(), n - 1);
-  for (int k = 0; k < n; ++k) QCOMPARE(files().asked()[k].name.toStdString(), count.requests[k].defaultName);
+  for (int k = 0; k < n; ++k)
+    QCOMPARE(files().asked()[k].name.toStdString(), count.requests[k].defaultName);
 }
 
 void BoardCommandsTest::developmentDxfThroughOverlap1() {
@@ -321,7 +329,8 @@ void BoardCommandsTest::exportTitleStaysForTheHullDialogs() {
   QCOMPARE(files().asked().size(), std::size_t{3});
   QCOMPARE(files().asked()[1].title, QString("Tolmar2008 - Save hull lines as 3D DXF file"));
   QCOMPARE(files().asked()[1].kind, DialogKind::open);
-  QCOMPARE(files().asked()[1].filter, QString("Data Tolmar2000 (*.D50 *.d50);;Old Data (*.D51 *.d51)"));
+  QCOMPARE(files().asked()[1].filter,
+           QString("Data Tolmar2000 (*.D50 *.d50);;Old Data (*.D51 *.d51)"));
   QCOMPARE(files().asked()[1].name, QString("Tolmar.D50"));
   QCOMPARE(files().asked()[2].title, QString("Tolmar2008 - Save hull lines as 3D DXF file"));
   QVERIFY(files().messages().empty());
@@ -331,9 +340,12 @@ void BoardCommandsTest::openReplacesTheHullAndOpensBouchain1_data() {
   QTest::addColumn<QString>("file");
   QTest::addColumn<QString>("name");
   QTest::addColumn<int>("lines");
-  QTest::newRow("no version") << "old_no_version.D50" << "old_no_version" << 3;
-  QTest::newRow("no &, count at the start") << "old_no_amp_short.D50" << "old_no_amp_short" << 4;
-  QTest::newRow("oldest .D51") << "old_oldest.D51" << "old_oldest" << 4;
+  QTest::newRow("no version") << "old_no_version.D50"
+                              << "old_no_version" << 3;
+  QTest::newRow("no &, count at the start") << "old_no_amp_short.D50"
+                                            << "old_no_amp_short" << 4;
+  QTest::newRow("oldest .D51") << "old_oldest.D51"
+                               << "old_oldest" << 4;
 }
 
 void BoardCommandsTest::openReplacesTheHullAndOpensBouchain1() {
@@ -342,7 +354,8 @@ void BoardCommandsTest::openReplacesTheHullAndOpensBouchain1() {
   QFETCH(int, lines);
   files().answerWith(QString(TOLMAR_TEST_DATA "/hull/" + file).toStdString());
   run(C::fmenu_Open);
-  QVERIFY2(files().messages().empty(), files().messages().empty() ? "" : files().messages()[0].text.c_str());
+  QVERIFY2(files().messages().empty(),
+           files().messages().empty() ? "" : files().messages()[0].text.c_str());
   QCOMPARE(QString::fromStdString(h_->hullName), name);
   QCOMPARE(int(h_->nChines), lines);
   QCOMPARE(QString::fromStdString(b_.text2), name);
@@ -359,8 +372,10 @@ void BoardCommandsTest::openRefusesWhatIsNotAHull_data() {
   QTest::newRow("missing") << QByteArray() << false;
   QTest::newRow("empty") << QByteArray() << true;
   QTest::newRow("binary") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16) << true;
-  QTest::newRow("a DXF") << QByteArray("999\r\nlines\r\n  0\r\nSECTION\r\n  2\r\nENTITIES\r\n  0\r\nEOF\r\n") << true;
-  QTest::newRow("count above 25") << QByteArray("X - Tolmar2008\r\n&C30\r\n1\r\n1\r\n0\r\n0\r\n0\r\n0\r\n0\r\n") << true;
+  QTest::newRow("a DXF")
+      << QByteArray("999\r\nlines\r\n  0\r\nSECTION\r\n  2\r\nENTITIES\r\n  0\r\nEOF\r\n") << true;
+  QTest::newRow("count above 25")
+      << QByteArray("X - Tolmar2008\r\n&C30\r\n1\r\n1\r\n0\r\n0\r\n0\r\n0\r\n0\r\n") << true;
 }
 
 void BoardCommandsTest::openRefusesWhatIsNotAHull() {
@@ -456,7 +471,8 @@ void BoardCommandsTest::printEntriesGoToPdf() {
   run(C::DessCouple);
   files().answerWith(spath("PRINT.PDF"));
   run(static_cast<BoardControl>(control));
-  QVERIFY2(files().messages().empty(), files().messages().empty() ? "" : files().messages()[0].text.c_str());
+  QVERIFY2(files().messages().empty(),
+           files().messages().empty() ? "" : files().messages()[0].text.c_str());
   QCOMPARE(files().asked().back().name, QString("TOLMAR2005.PDF"));
   const QByteArray pdf = test::readAll(path("PRINT.PDF"));
   QVERIFY(pdf.startsWith("%PDF"));

@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include "board/board_control.h"
+#include "board_session_util.h"
 #include "export/plate_dxf.h"
 #include "export/preset_host.h"
 #include "hull/hull_file.h"
@@ -21,7 +22,6 @@
 #include "windows/file_dialog.h"
 #include "windows/overlap1_window.h"
 #include "windows/printer_dialog.h"
-#include "board_session_util.h"
 #include "windows_test_util.h"
 
 using namespace tolmar;
@@ -144,7 +144,8 @@ void EndToEndTest::designSaveNewOpen() {
   // All offsets to PDF.
   files.answerWith(at("OFFSETS.PDF"));
   board.press(C::fmenu_P_Tout);
-  QVERIFY2(files.messages().empty(), files.messages().empty() ? "" : files.messages().back().text.c_str());
+  QVERIFY2(files.messages().empty(),
+           files.messages().empty() ? "" : files.messages().back().text.c_str());
   QVERIFY(pdfPages(test::readAll(dir.filePath("OFFSETS.PDF"))) >= 8);
 
   // Save: the hull takes the file's name.

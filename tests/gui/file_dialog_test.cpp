@@ -2,6 +2,8 @@
 // keeps a title and a folder an operation does not set, the bare name
 // given back, a cancel, the real QFileDialog as the user meets it, and
 // printing to PDF with its error paths.
+#include "windows/file_dialog.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -12,7 +14,6 @@
 #include <stdexcept>
 
 #include "hull/hull_store.h"
-#include "windows/file_dialog.h"
 #include "windows/printer_dialog.h"
 #include "windows_test_util.h"
 
@@ -44,10 +45,14 @@ void FileDialogTest::filters_data() {
                         << "Data Tolmar2000 (*.D50 *.d50);;Old Data (*.D51 *.d51)";
   QTest::newRow("save") << "Data Tolmar2000|*.D50|All files|*.*"
                         << "Data Tolmar2000 (*.D50 *.d50);;All files (*)";
-  QTest::newRow("lines") << "Lines (*.DXF)|*.DXF" << "Lines (*.DXF *.dxf)";
-  QTest::newRow("plank label differs") << "Plank (*_PLANK.DXF)|*.DXF" << "Plank (*_PLANK.DXF) (*.DXF *.dxf)";
-  QTest::newRow("two patterns") << "Tables|*.XYZ;*.TXT" << "Tables (*.XYZ *.xyz *.TXT *.txt)";
-  QTest::newRow("empty") << "" << "";
+  QTest::newRow("lines") << "Lines (*.DXF)|*.DXF"
+                         << "Lines (*.DXF *.dxf)";
+  QTest::newRow("plank label differs") << "Plank (*_PLANK.DXF)|*.DXF"
+                                       << "Plank (*_PLANK.DXF) (*.DXF *.dxf)";
+  QTest::newRow("two patterns") << "Tables|*.XYZ;*.TXT"
+                                << "Tables (*.XYZ *.xyz *.TXT *.txt)";
+  QTest::newRow("empty") << ""
+                         << "";
 }
 
 void FileDialogTest::filters() {
@@ -68,7 +73,8 @@ void FileDialogTest::titleAndFolderStayFromTheLastDialog() {
   QVERIFY(d.askSaveFile({"Export title", "Lines (*.DXF)|*.DXF", "A.DXF", exports}).has_value());
   // The hull file sets neither title nor an existing folder.
   d.answerWith(std::nullopt);
-  QVERIFY(!d.askOpenFile({std::nullopt, "Data|*.D50", "Tolmar.D50", "no-such-folder-here"}).has_value());
+  QVERIFY(!d.askOpenFile({std::nullopt, "Data|*.D50", "Tolmar.D50", "no-such-folder-here"})
+               .has_value());
 
   QCOMPARE(d.asked().size(), std::size_t{2});
   QCOMPARE(d.asked()[1].title, QString("Export title"));
@@ -123,8 +129,8 @@ void FileDialogTest::realDialogShowsTheRequest() {
     fd->selectFile(target);
     static_cast<QDialog*>(fd)->accept();
   });
-  const auto a = d.askSaveFile({"Tolmar2008 - Save hull lines as 2D DXF file", "Lines (*.DXF)|*.DXF", "HULL.DXF",
-                                dir.path().toStdString()});
+  const auto a = d.askSaveFile({"Tolmar2008 - Save hull lines as 2D DXF file",
+                                "Lines (*.DXF)|*.DXF", "HULL.DXF", dir.path().toStdString()});
   QVERIFY(a.has_value());
   QCOMPARE(title, QString("Tolmar2008 - Save hull lines as 2D DXF file"));
   QCOMPARE(QDir(folder), QDir(dir.path()));
@@ -180,7 +186,8 @@ void FileDialogTest::pdfCancelledPrintsNothing() {
   printers.pdfOnly = true;
   files.answerWith(std::nullopt);
   bool drawn = false;
-  QCOMPARE(printDocument(files, printers, h, [&](DrawingSurface&) { drawn = true; }), PrintOutcome::cancelled);
+  QCOMPARE(printDocument(files, printers, h, [&](DrawingSurface&) { drawn = true; }),
+           PrintOutcome::cancelled);
   QVERIFY(!drawn);
   QVERIFY(files.messages().empty());
 }

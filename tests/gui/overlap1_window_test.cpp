@@ -2,6 +2,8 @@
 // while the value reaches the store, leaving a field rewrites it clean,
 // the advice follows the typing, Enter presses no button, and the three
 // buttons and the window's closing leave overlapMode as the screen says.
+#include "windows/overlap1_window.h"
+
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -9,7 +11,6 @@
 #include <memory>
 
 #include "development/hull_fixture.h"
-#include "windows/overlap1_window.h"
 #include "windows_test_util.h"
 
 using namespace tolmar;
@@ -117,7 +118,8 @@ void Overlap1WindowTest::adviceFollowsTheTyping() {
     sideAdvice = w->advice(1)->text();
     w->command1(0)->click();
   });
-  QVERIFY2(bottomAdvice.startsWith("Recommended width of overlap at point"), qPrintable(bottomAdvice));
+  QVERIFY2(bottomAdvice.startsWith("Recommended width of overlap at point"),
+           qPrintable(bottomAdvice));
   QVERIFY(bottomAdvice.contains("(Bmax):"));
   QCOMPARE(sideAdvice, QString("Recommended width of overlap  18mm "));
 }

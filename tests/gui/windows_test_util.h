@@ -3,6 +3,9 @@
 // (as root too: the effective user is dropped for the time of the write).
 #pragma once
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
@@ -10,8 +13,6 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace tolmar::test {
 
