@@ -1,6 +1,6 @@
 # Two commands on a fresh Debian machine: `make run` and `make test`.
 BUILD      ?= build
-BUILD_TYPE ?= RelWithDebInfo
+BUILD_TYPE ?= Release
 JOBS       ?= $(shell nproc)
 
 .PHONY: all deps configure build test run demo bench fuzz clean

@@ -48,7 +48,7 @@ inline void autoPlanks(HullStore& h, int planks, int first, int last, double zAf
   s.Text2(1).text = std::to_string(zFwd);
   s.Text2(2).text = std::to_string(zMax);
   s.Text2(3).text = std::to_string(zAft);
-  s.Text4.text = "0";
+  s.Text4.text.assign(1, '0');  // not = "0": GCC 12 warns falsely (-Wrestrict)
   require(s.validerAuto(h), "automatic planking");
 }
 
