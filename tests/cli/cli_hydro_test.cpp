@@ -2,6 +2,8 @@
 // against a golden file, a waterline typed with a decimal comma, and the
 // command line's errors.
 #include <gtest/gtest.h>
+
+#include "cli/cli_run.h"
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -16,39 +18,18 @@
 
 namespace {
 
+using tolmar::testing::CliRun;
+using tolmar::testing::runCli;
+using tolmar::testing::slurp;
+
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-struct CliRun {
-  int status = -1;
-  std::string out, err;
-};
 
-std::string slurp(const fs::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  std::ostringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
 
 const std::string kDefaultHull = (fs::path(TOLMAR_GOLDEN) / "default_hull.D50").string();
 
-CliRun hydro(const std::string& args) {
-  const fs::path err = fs::temp_directory_path() / ("tolmar_hydro_err_" + std::to_string(getpid()));
-  const std::string cmd =
-      "'" + std::string(TOLMAR_CLI) + "' hydro " + args + " 2>'" + err.string() + "'";
-  CliRun r;
-  FILE* p = popen(cmd.c_str(), "r");
-  if (!p) return r;
-  std::array<char, 65536> buf;
-  std::size_t n;
-  while ((n = std::fread(buf.data(), 1, buf.size(), p)) > 0) r.out.append(buf.data(), n);
-  const int st = pclose(p);
-  r.status = WIFEXITED(st) ? WEXITSTATUS(st) : -1;
-  r.err = slurp(err);
-  fs::remove(err);
-  return r;
-}
+CliRun hydro(const std::string& args) { return runCli("hydro " + args); }
 
 bool allNumbers(const json& a) {
   if (!a.is_array() || a.size() != 83) return false;

@@ -2,6 +2,8 @@
 // an old layout, doubles to 17 digits, and the error path.
 #include <gtest/gtest.h>
 
+#include "cli/cli_run.h"
+
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -16,36 +18,16 @@
 
 namespace {
 
+using tolmar::testing::CliRun;
+using tolmar::testing::runCli;
+using tolmar::testing::slurp;
+
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-struct CliRun {
-  int status = -1;
-  std::string out, err;
-};
 
-std::string slurp(const fs::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  std::ostringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
 
-CliRun openFile(const fs::path& file) {
-  const fs::path err = fs::temp_directory_path() / ("tolmar_open_err_" + std::to_string(getpid()));
-  const std::string cmd = "'" + std::string(TOLMAR_CLI) + "' open '" + file.string() + "' 2>'" + err.string() + "'";
-  CliRun r;
-  FILE* p = popen(cmd.c_str(), "r");
-  if (!p) return r;
-  std::array<char, 65536> buf;
-  std::size_t n;
-  while ((n = std::fread(buf.data(), 1, buf.size(), p)) > 0) r.out.append(buf.data(), n);
-  const int st = pclose(p);
-  r.status = WIFEXITED(st) ? WEXITSTATUS(st) : -1;
-  r.err = slurp(err);
-  fs::remove(err);
-  return r;
-}
+CliRun openFile(const fs::path& file) { return runCli("open '" + file.string() + "'"); }
 
 const fs::path kData = fs::path(TOLMAR_TEST_DATA) / "hull";
 

@@ -2,6 +2,8 @@
 // those the export tests expect of the default hull, and the error path.
 #include <gtest/gtest.h>
 
+#include "cli/cli_run.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -15,19 +17,13 @@
 
 namespace {
 
+using tolmar::testing::CliRun;
+using tolmar::testing::runCli;
+using tolmar::testing::slurp;
+
 namespace fs = std::filesystem;
 
-std::string slurp(const fs::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  std::ostringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
 
-struct CliRun {
-  int status = -1;
-  std::string out, err;
-};
 
 class CliExport : public ::testing::Test {
  protected:
@@ -40,19 +36,7 @@ class CliExport : public ::testing::Test {
   }
   void TearDown() override { fs::remove_all(dir_); }
 
-  CliRun cli(const std::string& args) const {
-    const fs::path out = dir_ / "stdout.txt", err = dir_ / "stderr.txt";
-    const std::string cmd = "'" + std::string(TOLMAR_CLI) + "' " + args + " >'" + out.string() +
-                            "' 2>'" + err.string() + "'";
-    CliRun r;
-    const int st = std::system(cmd.c_str());
-    r.status = WIFEXITED(st) ? WEXITSTATUS(st) : -1;
-    r.out = slurp(out);
-    r.err = slurp(err);
-    fs::remove(out);
-    fs::remove(err);
-    return r;
-  }
+  CliRun cli(const std::string& args) const { return runCli(args); }
   std::string hull() const { return "'" + (dir_ / "Tolmar.D50").string() + "'"; }
   std::string at(const std::string& name) const { return "'" + (dir_ / name).string() + "'"; }
 

@@ -3,6 +3,8 @@
 // replaces, the hulls that cannot be validated and the wrong --set forms.
 #include <gtest/gtest.h>
 
+#include "cli/cli_run.h"
+
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -18,20 +20,14 @@
 
 namespace {
 
+using tolmar::testing::CliRun;
+using tolmar::testing::runCli;
+using tolmar::testing::slurp;
+
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-struct CliRun {
-  int status = -1;
-  std::string out, err;
-};
 
-std::string slurp(const fs::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  std::ostringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
 
 class Pipeline : public ::testing::Test {
  protected:
@@ -46,21 +42,7 @@ class Pipeline : public ::testing::Test {
   void TearDown() override { fs::remove_all(dir_); }
 
   // Runs tolmar-cli in the test's folder; arguments are quoted for the shell.
-  CliRun cli(const std::string& args) const {
-    const fs::path err = dir_ / "stderr.txt";
-    const std::string cmd =
-        "cd '" + dir_.string() + "' && '" + std::string(TOLMAR_CLI) + "' " + args + " 2>'" + err.string() + "'";
-    CliRun r;
-    FILE* p = popen(cmd.c_str(), "r");
-    if (!p) return r;
-    std::array<char, 65536> buf;
-    std::size_t n;
-    while ((n = std::fread(buf.data(), 1, buf.size(), p)) > 0) r.out.append(buf.data(), n);
-    const int st = pclose(p);
-    r.status = WIFEXITED(st) ? WEXITSTATUS(st) : -1;
-    r.err = slurp(err);
-    return r;
-  }
+  CliRun cli(const std::string& args) const { return runCli(args, dir_); }
 
   json dump(const std::string& args) const {
     const CliRun r = cli("dump " + args);
