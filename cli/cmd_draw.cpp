@@ -11,7 +11,9 @@
 #include <string>
 
 #include "command.h"
+#include "analysis/hydro_screen.h"
 #include "pipeline.h"
+#include "text/number_format.h"
 #include "qtdraw/hull_picture.h"
 
 namespace tolmar::cli {
@@ -38,21 +40,61 @@ void quietQt(QtMsgType type, const QMessageLogContext&, const QString& msg) {
   if (type == QtCriticalMsg || type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(msg));
 }
 
+constexpr const char* kUsage =
+    "HULL.D50 OUT.png|OUT.svg [--size WxH] [--station X] [--develop]\n"
+    "            [--hydro-zwl Z | --hydro-disp V] [--auto] [--set SCREEN.CONTROL=VALUE]...";
+
 int usage() {
-  std::fprintf(stderr, "usage: tolmar-cli draw HULL.D50 OUT.png|OUT.svg [--size WxH] [--station X]\n");
+  std::fprintf(stderr, "usage: tolmar-cli draw %s\n", kUsage);
   return 2;
+}
+
+// hydro1 run once as a user would: mode 1 at the waterline Z, or mode 0
+// floating the hull at the displacement V.
+void runHydro(HullStore& h, const std::string& zwl, const std::string& disp) {
+  using namespace analysis;
+  Hydro1 hydro;
+  loadHydro(hydro);
+  setHydroTexts(hydro, h);
+  hydro.Text1(1).text = formatNumber(h.xFwd(0) / 100, "0.000");
+  if (!zwl.empty()) {
+    hydro.Text1(1).text = zwl;
+    clickHydroOption(hydro, h, 1);
+  } else {
+    hydro.Text1(0).text = disp;
+    clickHydroOption(hydro, h, 0);
+  }
 }
 
 int run(const Args& args) {
   std::vector<std::string> files;
   qtdraw::PictureOptions pic;
+  PipelineOptions o;
+  std::string zwl, disp;
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& a = args[i];
-    if (a == "--size" || a == "--station") {
+    if (a == "--develop") {
+      pic.develop = true;
+    } else if (a == "--auto") {
+      o.autoPlanking = true;
+    } else if (a == "--size" || a == "--station" || a == "--hydro-zwl" || a == "--hydro-disp" ||
+               a == "--set") {
       if (i + 1 >= args.size()) return usage();
       const std::string& v = args[++i];
       if (a == "--station") {
         pic.station = v;
+      } else if (a == "--hydro-zwl" || a == "--hydro-disp") {
+        (a == "--hydro-zwl" ? zwl : disp) = v;
+        if (!zwl.empty() && !disp.empty()) return usage();
+        pic.waterline = true;
+      } else if (a == "--set") {
+        std::string error;
+        SetValue set = parseSet(v, error);
+        if (!error.empty()) {
+          std::fprintf(stderr, "tolmar-cli draw: %s\n", error.c_str());
+          return 2;
+        }
+        o.sets.push_back(std::move(set));
       } else if (!parseSize(v, pic.dots)) {
         std::fprintf(stderr, "tolmar-cli draw: bad size '%s', want WxH, 1..20000 each\n", v.c_str());
         return 2;
@@ -70,7 +112,6 @@ int run(const Args& args) {
     return 2;
   }
 
-  PipelineOptions o;
   o.hullFile = files[0];
   auto h = std::make_unique<HullStore>();
   const PipelineResult r = prepareHull(*h, o);
@@ -79,6 +120,7 @@ int run(const Args& args) {
     return r.status;
   }
   pic.stepIndex = r.board.stepIndex;
+  if (pic.waterline) runHydro(*h, zwl, disp);
 
   // The fonts need a GUI application; without a display the offscreen
   // platform serves.
@@ -99,12 +141,15 @@ int run(const Args& args) {
   return 0;
 }
 
-Register reg({"draw", "HULL.D50 OUT.png|OUT.svg [--size WxH] [--station X]",
-              "  Opens a hull file and passes its screens as `dump` does, redraws the board on\n"
-              "  a picture of W x H dots (1600x1000 unless given; 15 twips a dot) and writes it\n"
-              "  as PNG or SVG, after the extension.  --station X draws the station nearest to\n"
-              "  X metres over the profile, as Draw station does.  Status 1: a file cannot be\n"
-              "  read or written; 2: a screen does not pass or the command line is wrong.",
+Register reg({"draw", kUsage,
+              "  Opens a hull file and passes its screens as `dump` does (--auto and --set as\n"
+              "  there), redraws the board on a picture of W x H dots (1600x1000 unless given;\n"
+              "  15 twips a dot) and writes it as PNG or SVG, after the extension.  --station X\n"
+              "  draws the station nearest to X metres over the profile, as Draw station does;\n"
+              "  --develop draws the plates as Develop does; --hydro-zwl Z (integrate at the\n"
+              "  waterline Z) or --hydro-disp V (float at V m3) runs the hydrostatics and draws\n"
+              "  the water line and centres, as leaving hydro1 does.  Status 1: a file cannot\n"
+              "  be read or written; 2: a screen does not pass or the command line is wrong.",
               &run});
 
 }  // namespace

@@ -4,8 +4,10 @@
 #include <QString>
 
 #include "board/board_model.h"
+#include "board/plate_drawing.h"
 #include "board/station_drawing.h"
 #include "board/views.h"
+#include "board/water_line.h"
 #include "qtdraw/image_surface.h"
 #include "qtdraw/svg_surface.h"
 
@@ -21,6 +23,8 @@ void drawHull(DrawingSurface& s, HullStore& h, const PictureOptions& o) {
     board::drawStationState(b, h);
     drawStation(s, h);
   }
+  if (o.develop) developerDisplay(s, h, o.stepIndex);
+  if (o.waterline) drawWaterline(s, h);
 }
 
 }  // namespace

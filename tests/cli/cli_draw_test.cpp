@@ -60,6 +60,16 @@ TEST(CliDraw, DefaultHullAsPngAndSvg) {
   const std::string svg = slurp(d / "c.svg");
   EXPECT_NE(svg.find("<svg"), std::string::npos);
   EXPECT_NE(svg.find("TOLMAR2005"), std::string::npos);
+  // The overlays add to the same picture: the plates of Develop, and the
+  // water line left by the hydrostatics.
+  const std::string plain = slurp(d / "a.png");
+  ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "dev.png").string() + "' --develop"), 0);
+  ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "wl.png").string() + "' --hydro-disp 0.5"), 0);
+  ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "zwl.png").string() + "' --hydro-zwl 0.1"), 0);
+  for (const char* name : {"dev.png", "wl.png", "zwl.png"}) {
+    EXPECT_EQ(pngSize(slurp(d / name)), std::make_pair(1600, 1000)) << name;
+    EXPECT_NE(slurp(d / name), plain) << name;
+  }
   fs::remove_all(d);
 }
 
@@ -75,6 +85,8 @@ TEST(CliDraw, BadCommandLinesAndFiles) {
   EXPECT_EQ(cli("draw " + h + "'" + (d / "x.png").string() + "' --size 0x10"), 2);
   EXPECT_EQ(cli("draw " + h + "'" + (d / "x.png").string() + "' --station"), 2);
   EXPECT_EQ(cli("draw " + h + "'" + (d / "x.png").string() + "' --frob"), 2);
+  EXPECT_EQ(cli("draw " + h + "'" + (d / "x.png").string() + "' --hydro-zwl 0.1 --hydro-disp 1"), 2);
+  EXPECT_EQ(cli("draw " + h + "'" + (d / "x.png").string() + "' --set nonsense"), 2);
   EXPECT_EQ(cli("draw '" + (d / "none.D50").string() + "' '" + (d / "x.png").string() + "'"), 1);
   EXPECT_EQ(cli("draw " + h + "'" + (d / "no" / "dir" / "x.png").string() + "'"), 1);
   EXPECT_FALSE(fs::exists(d / "x.png"));
