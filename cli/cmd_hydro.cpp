@@ -27,6 +27,7 @@ struct HydroArgs {
   std::optional<std::string> disp, zwl;
   std::string pitch = "0";
   bool mass = false;
+  bool autoPlanking = false;
   std::vector<SetValue> hullSets, massSets;
 };
 
@@ -57,8 +58,9 @@ bool parseHydroArgs(const Args& args, HydroArgs& out) {
     }
   }
   SessionArgs s;
-  if (!parseSessionArgs(rest, false, s)) return false;
+  if (!parseSessionArgs(rest, true, s)) return false;
   out.file = s.file.string();
+  out.autoPlanking = s.autoPlanking;
   for (SetValue& v : s.sets) (v.screen == "mass1" ? out.massSets : out.hullSets).push_back(v);
   if (out.disp && out.zwl) {
     std::fprintf(stderr, "tolmar-cli hydro: --disp or --zwl, not both\n");
@@ -119,6 +121,7 @@ int run(const Args& args) {
   PipelineOptions o;
   o.hullFile = a.file;
   o.sets = a.hullSets;
+  o.autoPlanking = a.autoPlanking;
   auto h = std::make_unique<HullStore>();
   const PipelineResult r = prepareHull(*h, o);
   printWarnings(r);
@@ -186,7 +189,8 @@ int run(const Args& args) {
 
 Register reg(
     {"hydro",
-     "HULL.D50 (--disp M3 | --zwl Z) [--pitch DEG] [--mass] [--set mass1.CONTROL=VALUE]...",
+     "HULL.D50 (--disp M3 | --zwl Z) [--pitch DEG] [--mass] [--set mass1.CONTROL=VALUE]...\n"
+     "            [--auto] [--set SCREEN.CONTROL=VALUE]...",
      "  Prepares the hull as `dump` does, then runs the hydrostatics screen once:\n"
      "  --disp floats it at a displacement in m3 (the solver, starting from a\n"
      "  waterline at a hundredth of the length), --zwl integrates at a waterline\n"
@@ -194,7 +198,7 @@ Register reg(
      "  the mass budget first, with any --set mass1.Text1(r)=VALUE typed into its\n"
      "  fields: its centre of mass steers the pitch, and without --disp or --zwl\n"
      "  its total mass / 1000 is the displacement.  Other --set values go to the\n"
-     "  hull screens.  Prints hydro1's fields as shown, pitch (rad), dispTarget,\n"
+     "  hull screens, and --auto validates automatic planking, as for dump.  Prints hydro1's fields as shown, pitch (rad), dispTarget,\n"
      "  xDisp, yDisp, zDisp, totalMass, xMass, immersedChine, the comments, wlX,\n"
      "  wlY, wlZ, sectArea (points 0..82) and with --mass every row of mass1.",
      &run});

@@ -69,6 +69,17 @@ TEST(CliHydro, WaterlineWithADecimalComma) {
   EXPECT_FALSE(j.contains("mass1"));
 }
 
+TEST(CliHydro, TwentyAutomaticPlanksFloatAtTheAskedDisplacement) {
+  const fs::path file = fs::temp_directory_path() / ("tolmar_hydro_20_" + std::to_string(getpid()) + ".D50");
+  ASSERT_EQ(runCli("new '" + file.string() + "' --set bouchain3.Text0=20").status, 0);
+  const CliRun r = hydro("'" + file.string() + "' --disp 0.4 --auto");
+  fs::remove(file);
+  ASSERT_EQ(r.status, 0) << r.err;
+  const json j = json::parse(r.out);
+  EXPECT_NEAR(j["V"].get<double>(), 0.4, 1e-4);
+  EXPECT_EQ(j["dispTarget"].get<double>(), 0.4);
+}
+
 TEST(CliHydro, BeyondTheHullSinks) {
   const CliRun r = hydro("'" + kDefaultHull + "' --disp 50");
   ASSERT_EQ(r.status, 0) << r.err;
