@@ -93,7 +93,8 @@ TEST(PlateDxf, PlainFileLayout) {
   EXPECT_EQ(onLayer(all, 16).size(), 7U + 1);  // "transom" and its outline
   EXPECT_EQ(onLayer(all, 14).size(), 4U + 1);  // "st41" and the section
   EXPECT_TRUE(onLayer(all, 15).empty());       // a pointed stem has no bow plate
-  for (const auto& v : onLayer(all, 14).back().v) EXPECT_GE(v.z, -0.6);  // hull X kept as Z
+  const auto station = onLayer(all, 14);
+  for (const auto& v : station.back().v) EXPECT_GE(v.z, -0.6);  // hull X kept as Z
 }
 
 TEST(PlateDxf, StationTicksPointAwayFromTheEdge) {
