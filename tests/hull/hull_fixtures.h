@@ -1,5 +1,6 @@
 // Hulls for the geometry tests and benchmarks.  They derive the control
-// values as the hull screens do after a validation that changes nothing,
+// values with the hull screens' own derivations, for inputs already inside
+// their ranges (a validation that changes nothing),
 // so that the engine is tested on the hulls the program really builds.
 #pragma once
 
@@ -10,6 +11,8 @@
 #include "hull/geometrie.h"
 #include "hull/hull_store.h"
 #include "hull/line_generation.h"
+#include "screens/bottom_derivation.h"
+#include "screens/plank_breadths.h"
 
 namespace tolmar::testing {
 
@@ -29,48 +32,11 @@ inline void validateBottom(HullStore& h) {
   h.yMax(0) = 0;
   h.zMax(0) = h.zMax(1) - tanDeg(h.plankAngle(0)) * h.yMax(1);
 
-  // Keel heights where the bottom meets the centre plane; lines 2..4 not
-  // below the line beneath.
-  h.zFwd(0) = bottomZ(h, h.xFwd(0), 0);
-  h.zAft(0) = bottomZ(h, h.xAft(0), 0);
-  h.zMax(0) = bottomZ(h, h.xMax(1), 0);
-  for (int k = 2; k <= 4; ++k) {
-    if (h.zFwd(k) < h.zFwd(k - 1)) h.zFwd(k) = h.zFwd(k - 1);
-    if (h.zMax(k) < h.zMax(k - 1)) h.zMax(k) = h.zMax(k - 1);
-    if (h.zAft(k) < h.zAft(k - 1)) h.zAft(k) = h.zAft(k - 1);
-    h.xFwd(k) = h.xFwd(0);
-    h.xMax(k) = h.xMax(1);
-    h.xAft(k) = h.xAft(0);
-  }
-
-  const double lf = h.xFwd(0), lm = h.xMax(1);
-  const double dyF = h.yFwd(1) - h.yAft(1), dyM = h.yMax(1) - h.yAft(1);
-  const double dzF = h.zFwd(1) - h.zAft(1), dzM = h.zMax(1) - h.zAft(1);
-  h.planeC(1) = (dzF * lm - dzM * lf) / (dyF * lm - lf * dyM);
-  h.planeB(1) = (dzF * dyM - dzM * dyF) / (lf * dyM - dyF * lm);
-  h.planeA(1) = h.zAft(1) - h.planeC(1) * h.yAft(1);
-
-  // Ends of line 1 on the raked stem and transom, ten passes each; a stem
-  // whose chine would cross the centre plane loses a degree at a time.
-  double x = h.xFwd(0), z = h.zFwd(1);
-  for (int i = 0; i < 10; ++i) {
-    double y;
-    do {
-      x = h.xFwd(0) + tanDeg(h.bowAngle) * (z - h.zFwd(0));
-      z = chineZ(h, 1, x);
-      y = chineY(h, 1, x);
-      if (y < 0) --h.bowAngle;
-    } while (y < 0 && h.bowAngle > -90);
-  }
-  h.xFwd(1) = x;
-  x = h.xAft(0);
-  z = h.zAft(1);
-  for (int i = 0; i < 10; ++i) {
-    x = h.xAft(0) + tanDeg(h.transomAngle) * (z - h.zAft(0));
-    z = chineZ(h, 1, x);
-  }
-  h.xAft(1) = x;
-
+  // The screen's own derivations: keel heights, plane and true ends of
+  // line 1.
+  deriveBottomHeights(h);
+  fitFirstChinePlane(h);
+  fitFirstChineEnds(h);
   buildBottomLines(h);
   buildBottomEdges(h);
 }
@@ -85,30 +51,11 @@ inline HullStore validatedDefaultHull() {
 // Half breadths of lines 2..nChines from the heights typed for them, as
 // the planks screen derives them.
 inline void derivePlankBreadths(HullStore& h) {
-  auto roundDown = [](double v, double add) { return (std::floor(v * 10000) + add) / 10000; };
   for (int n = 2; n <= h.nChines; ++n) {
     h.xMax(n) = h.xMax(n - 1);
-    const double a = 90 - h.plankAngle(n - 1);
-    const double t = tanDeg(a);
-    h.yFwd(n) = h.yFwd(n - 1) + t * (h.zFwd(n) - h.zFwd(n - 1));
-    if (h.yFwd(n) < 0 && a != 0) {
-      h.zFwd(n) = roundDown(h.zFwd(n) - h.yFwd(n) / t, 0.5);
-      h.yFwd(n) = 0;
-    }
-    h.yAft(n) = h.yAft(n - 1) + t * (h.zAft(n) - h.zAft(n - 1));
-    if (h.yAft(n) < 0 && a != 0) {
-      h.zAft(n) = roundDown(h.zAft(n) - h.yAft(n) / t, 0.5);
-      h.yAft(n) = 0;
-    }
-    h.yMax(n) = h.yMax(n - 1) + t * (h.zMax(n) - h.zMax(n - 1));
-    if (h.yMax(n) < 0 && a != 0) {
-      h.zMax(n) = roundDown(h.zMax(n) - h.yMax(n) / t, 0);
-      h.yMax(n) = 0.001;
-    }
-    if (h.yMax(n) < h.yAft(n) && a != 0) {
-      h.zMax(n) = roundDown(h.zMax(n - 1) - (h.yMax(n - 1) - h.yAft(n)) / t, 1);
-      h.yMax(n) = h.yMax(n - 1) + t * (h.zMax(n) - h.zMax(n - 1));
-    }
+    deriveYFwd(h, n);
+    deriveYAft(h, n);
+    deriveYMax(h, n);
   }
 }
 
