@@ -47,7 +47,8 @@ bool parseSessionArgs(const Args& args, bool allowAuto, SessionArgs& out) {
 }
 
 void printWarnings(const PipelineResult& r) {
-  for (const Replacement& w : r.warnings) std::fprintf(stderr, "replaced: %s\n", describe(w).c_str());
+  for (const Replacement& w : r.warnings)
+    std::fprintf(stderr, "replaced: %s\n", describe(w).c_str());
 }
 
 }  // namespace tolmar::cli

@@ -10,11 +10,11 @@
 #include <optional>
 #include <string>
 
-#include "command.h"
 #include "analysis/hydro_screen.h"
+#include "command.h"
 #include "pipeline.h"
-#include "text/number_format.h"
 #include "qtdraw/hull_picture.h"
+#include "text/number_format.h"
 
 namespace tolmar::cli {
 namespace {
@@ -96,7 +96,8 @@ int run(const Args& args) {
         }
         o.sets.push_back(std::move(set));
       } else if (!parseSize(v, pic.dots)) {
-        std::fprintf(stderr, "tolmar-cli draw: bad size '%s', want WxH, 1..20000 each\n", v.c_str());
+        std::fprintf(stderr, "tolmar-cli draw: bad size '%s', want WxH, 1..20000 each\n",
+                     v.c_str());
         return 2;
       }
     } else if (a.rfind("--", 0) == 0) {
@@ -108,7 +109,8 @@ int run(const Args& args) {
   if (files.size() != 2) return usage();
   const QString out = QString::fromStdString(files[1]).toLower();
   if (!out.endsWith(".png") && !out.endsWith(".svg")) {
-    std::fprintf(stderr, "tolmar-cli draw: the picture must end in .png or .svg: %s\n", files[1].c_str());
+    std::fprintf(stderr, "tolmar-cli draw: the picture must end in .png or .svg: %s\n",
+                 files[1].c_str());
     return 2;
   }
 

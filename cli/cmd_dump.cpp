@@ -44,7 +44,8 @@ json dumpDocument(HullStore& h, const PipelineResult& r) {
   j["bevelAngle"] = std::move(bevel);
   json warnings = json::array();
   for (const Replacement& w : r.warnings)
-    warnings.push_back({{"screen", w.screen}, {"control", w.control}, {"typed", w.typed}, {"kept", w.kept}});
+    warnings.push_back(
+        {{"screen", w.screen}, {"control", w.control}, {"typed", w.typed}, {"kept", w.kept}});
   j["warnings"] = std::move(warnings);
   // Developing overwrites only the dev and end-plate arrays, which nothing
   // above has printed.

@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "command.h"
-#include "export/lines_dxf.h"
 #include "export/end_plates_dxf.h"
+#include "export/lines_dxf.h"
 #include "export/plate_dxf.h"
 #include "export/preset_host.h"
 #include "export/vrml_file.h"

@@ -198,7 +198,8 @@ Register reg(
      "  the mass budget first, with any --set mass1.Text1(r)=VALUE typed into its\n"
      "  fields: its centre of mass steers the pitch, and without --disp or --zwl\n"
      "  its total mass / 1000 is the displacement.  Other --set values go to the\n"
-     "  hull screens, and --auto validates automatic planking, as for dump.  Prints hydro1's fields as shown, pitch (rad), dispTarget,\n"
+     "  hull screens, and --auto validates automatic planking, as for dump.  Prints hydro1's "
+     "fields as shown, pitch (rad), dispTarget,\n"
      "  xDisp, yDisp, zDisp, totalMass, xMass, immersedChine, the comments, wlX,\n"
      "  wlY, wlZ, sectArea (points 0..82) and with --mass every row of mass1.",
      &run});

@@ -30,10 +30,11 @@ int run(const tolmar::cli::Args& args) {
   return 0;
 }
 
-tolmar::cli::Register reg({"open", "HULL.D50",
-                           "  Reads a hull file (.D50, or an old .D51 or older layout), rebuilds its\n"
-                           "  lines and prints the store as JSON: inputs, control values, planes,\n"
-                           "  line points and bottom edges, doubles to 17 digits.",
-                           &run});
+tolmar::cli::Register reg(
+    {"open", "HULL.D50",
+     "  Reads a hull file (.D50, or an old .D51 or older layout), rebuilds its\n"
+     "  lines and prints the store as JSON: inputs, control values, planes,\n"
+     "  line points and bottom edges, doubles to 17 digits.",
+     &run});
 
 }  // namespace

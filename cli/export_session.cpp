@@ -21,7 +21,8 @@ int outcome(ExportOutcome o) { return o == ExportOutcome::failed ? 1 : 0; }
 bool plateNumber(const std::string& kind, const std::string& prefix, int& n) {
   if (kind.rfind(prefix, 0) != 0) return false;
   const std::string digits = kind.substr(prefix.size());
-  if (digits.empty() || digits.size() > 2 || digits.find_first_not_of("0123456789") != std::string::npos)
+  if (digits.empty() || digits.size() > 2 ||
+      digits.find_first_not_of("0123456789") != std::string::npos)
     return false;
   n = std::atoi(digits.c_str());
   return true;
@@ -55,11 +56,15 @@ bool parseExportArgs(const Args& args, ExportArgs& out) {
     } else if (s == "--overlap") {
       std::string v;
       if (!value(v)) return false;
-      if (v == "strip") out.overlap = OverlapAnswer::strip;
-      else if (v == "lap") out.overlap = OverlapAnswer::lap;
-      else if (v == "cancel") out.overlap = OverlapAnswer::cancel;
+      if (v == "strip")
+        out.overlap = OverlapAnswer::strip;
+      else if (v == "lap")
+        out.overlap = OverlapAnswer::lap;
+      else if (v == "cancel")
+        out.overlap = OverlapAnswer::cancel;
       else {
-        std::fprintf(stderr, "tolmar-cli: --overlap takes strip, lap or cancel, not '%s'\n", v.c_str());
+        std::fprintf(stderr, "tolmar-cli: --overlap takes strip, lap or cancel, not '%s'\n",
+                     v.c_str());
         return false;
       }
     } else if (s == "--set" || s.rfind("--set=", 0) == 0) {
@@ -132,8 +137,8 @@ int chosenStation(HullStore& h, PipelineResult& r, const ExportArgs& a) {
 
 const std::vector<std::string>& exportKinds() {
   static const std::vector<std::string> kinds = {
-      "lines2d", "lines3d", "lines-xyz", "vrml", "plates-dxf", "decks-dxf", "station-dxf",
-      "plank-xyz:N", "deck-xyz:N", "transom-xyz", "bow-xyz"};
+      "lines2d",     "lines3d",     "lines-xyz",  "vrml",        "plates-dxf", "decks-dxf",
+      "station-dxf", "plank-xyz:N", "deck-xyz:N", "transom-xyz", "bow-xyz"};
   return kinds;
 }
 
@@ -146,7 +151,8 @@ int runExportKind(ExportHost& host, HullStore& h, PipelineResult& r, const Expor
   if (kind == "vrml") return outcome(saveVrml(host, h));
   if (kind == "plates-dxf" || kind == "decks-dxf") {
     if (!answerOverlap(h, a)) return 2;
-    if (h.overlapMode != 1 && h.overlapMode != 2) return 0;  // cancelled: nothing written, nothing said
+    if (h.overlapMode != 1 && h.overlapMode != 2)
+      return 0;  // cancelled: nothing written, nothing said
     return outcome(kind == "plates-dxf" ? savePlateFile(host, h, r.board.stepIndex)
                                         : saveDeckFile(host, h, r.board.stepIndex));
   }

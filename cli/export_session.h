@@ -18,11 +18,11 @@ enum class OverlapAnswer { cancel = 0, strip = 1, lap = 2 };
 
 struct ExportArgs {
   std::vector<std::string> positional;
-  int langue = 1;                                 // --lang en (default) or fr
-  bool autoPlanking = false;                      // --auto
-  OverlapAnswer overlap = OverlapAnswer::strip;   // --overlap strip|lap|cancel
-  std::vector<SetValue> screenSets;               // --set bouchainN.CONTROL=VALUE
-  std::vector<SetValue> overlapSets;              // --set overlap1.TextG(i)=VALUE, mm
+  int langue = 1;                                // --lang en (default) or fr
+  bool autoPlanking = false;                     // --auto
+  OverlapAnswer overlap = OverlapAnswer::strip;  // --overlap strip|lap|cancel
+  std::vector<SetValue> screenSets;              // --set bouchainN.CONTROL=VALUE
+  std::vector<SetValue> overlapSets;             // --set overlap1.TextG(i)=VALUE, mm
   std::string stationAt;  // --station X: the station's X, as typed on the board
 };
 

@@ -20,7 +20,8 @@ void dumpTo(const nlohmann::json& j, int indent, std::string& out) {
       return;
     }
     std::array<char, 32> buf{};
-    const auto res = std::to_chars(buf.data(), buf.data() + buf.size(), v, std::chars_format::general, 17);
+    const auto res =
+        std::to_chars(buf.data(), buf.data() + buf.size(), v, std::chars_format::general, 17);
     out.append(buf.data(), res.ptr);
   } else if (j.is_array()) {
     const bool flat = std::all_of(j.begin(), j.end(), isScalar);

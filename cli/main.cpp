@@ -19,8 +19,9 @@ namespace {
 
 void printHelp() {
   std::printf("usage: tolmar-cli COMMAND [ARGS]\n\n");
-  std::printf("Designs hard-chine and lap-strake hulls from the command line: opens,\n"
-              "validates and exports hull files (.D50, .D51) as the desktop program does.\n\n");
+  std::printf(
+      "Designs hard-chine and lap-strake hulls from the command line: opens,\n"
+      "validates and exports hull files (.D50, .D51) as the desktop program does.\n\n");
   auto cmds = tolmar::cli::commands();
   std::sort(cmds.begin(), cmds.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
   for (const auto& c : cmds) {

@@ -19,7 +19,9 @@ namespace {
 using board::Do;
 using board::ScreenId;
 
-bool knownScreen(std::string_view s) { return s == "bouchain1" || s == "bouchain2" || s == "bouchain3"; }
+bool knownScreen(std::string_view s) {
+  return s == "bouchain1" || s == "bouchain2" || s == "bouchain3";
+}
 
 // A field or an option button of a screen, found by the name of a --set.
 struct Target {
@@ -31,7 +33,8 @@ struct Target {
 template <int Lo, int Hi>
 Target inArray(ControlArray<Lo, Hi>& a, const SetValue& s, bool option = false) {
   if (s.index < Lo || s.index > Hi)
-    return {nullptr, false, s.control + " takes an index " + std::to_string(Lo) + ".." + std::to_string(Hi)};
+    return {nullptr, false,
+            s.control + " takes an index " + std::to_string(Lo) + ".." + std::to_string(Hi)};
   return {&a(s.index), option, {}};
 }
 
@@ -40,7 +43,9 @@ Target single(Field& f, const SetValue& s) {
   return {&f, false, {}};
 }
 
-Target unknown(const SetValue& s) { return {nullptr, false, "no control " + s.control + " on " + s.screen}; }
+Target unknown(const SetValue& s) {
+  return {nullptr, false, "no control " + s.control + " on " + s.screen};
+}
 
 Target find(Bouchain1& b, const SetValue& s) {
   if (s.control == "Text1") return inArray(b.Text1, s);
@@ -117,20 +122,21 @@ PipelineResult Session::run() {
       return r_;
     }
     board::openNamed(r_.board, h_);
-    if (!perform(board::openBeforeRebuild(r_.board)) || !perform(board::openAfterRebuild(r_.board))) return r_;
+    if (!perform(board::openBeforeRebuild(r_.board)) || !perform(board::openAfterRebuild(r_.board)))
+      return r_;
   } else if (!perform(screens::createClick(r_.board, h_))) {
     return r_;
   }
 
-  const bool autoPlanking =
-      o_.autoPlanking || h_.nChines > 6 ||
-      std::any_of(o_.sets.begin(), o_.sets.end(), [](const SetValue& s) { return s.screen == "bouchain3"; });
+  const bool autoPlanking = o_.autoPlanking || h_.nChines > 6 ||
+                            std::any_of(o_.sets.begin(), o_.sets.end(),
+                                        [](const SetValue& s) { return s.screen == "bouchain3"; });
   const std::string_view skipped = autoPlanking ? "bouchain2" : "bouchain3";
   for (const SetValue& s : o_.sets) {
     if (s.screen == skipped) {
       fail(2, "--set " + s.arg + ": " + std::string(skipped) + " is not shown for this hull (" +
-                  (autoPlanking ? "automatic planking" : "planks by hand") + ", " + std::to_string(h_.nChines) +
-                  " lines)");
+                  (autoPlanking ? "automatic planking" : "planks by hand") + ", " +
+                  std::to_string(h_.nChines) + " lines)");
       return r_;
     }
   }
@@ -156,8 +162,11 @@ bool Session::perform(const board::Actions& actions) {
       case Do::Focus:
         if (a.control == board::BoardControl::dessine) redraw();
         break;
-      case Do::AfterModal: board::afterModal(r_.board, a.control); break;
-      default: break;
+      case Do::AfterModal:
+        board::afterModal(r_.board, a.control);
+        break;
+      default:
+        break;
     }
   }
   return true;
@@ -168,7 +177,9 @@ bool Session::runScreen(ScreenId s) {
     case ScreenId::bouchain1:
       b1_.activate(h_);
       if (!typeSets(b1_, "bouchain1", [](const SetValue&) {})) return false;
-      if (!validate("bouchain1", [&] { return b1_.validerBottom(h_); }, b1_.replaced)) return false;
+      if (!validate(
+              "bouchain1", [&] { return b1_.validerBottom(h_); }, b1_.replaced))
+        return false;
       return perform(board::endOfBouchain1(r_.board, h_));
     case ScreenId::bouchain2:
       b2_.activate(h_);
@@ -178,14 +189,19 @@ bool Session::runScreen(ScreenId s) {
             if (v.control == "OptMarotte") b2_.clickOptMarotte(h_, v.index);
           }))
         return false;
-      if (!validate("bouchain2", [&] { return b2_.validerPlanks(h_); }, b2_.replaced)) return false;
+      if (!validate(
+              "bouchain2", [&] { return b2_.validerPlanks(h_); }, b2_.replaced))
+        return false;
       return perform(board::endOfBouchain2(r_.board));
     case ScreenId::bouchain3:
       b3_.activate(h_);
       if (!typeSets(b3_, "bouchain3", [](const SetValue&) {})) return false;
-      if (!validate("bouchain3", [&] { return b3_.validerAuto(h_); }, b3_.replaced)) return false;
+      if (!validate(
+              "bouchain3", [&] { return b3_.validerAuto(h_); }, b3_.replaced))
+        return false;
       return perform(board::endOfBouchain3(r_.board, h_));
-    default: return true;  // overlap1 and the analysis screens change nothing here
+    default:
+      return true;  // overlap1 and the analysis screens change nothing here
   }
 }
 
@@ -195,9 +211,11 @@ bool Session::typeSets(Screen& screen, std::string_view name, Click click) {
     if (s.screen != name) continue;
     const Target t = find(screen, s);
     if (!t.field) return fail(2, "--set " + s.arg + ": " + t.error);
-    if (!t.field->enabled) return fail(2, "--set " + s.arg + ": the field is disabled on " + s.screen);
+    if (!t.field->enabled)
+      return fail(2, "--set " + s.arg + ": the field is disabled on " + s.screen);
     if (t.option) {
-      if (s.hasValue) return fail(2, "--set " + s.arg + ": an option button is clicked, it takes no value");
+      if (s.hasValue)
+        return fail(2, "--set " + s.arg + ": an option button is clicked, it takes no value");
       click(s);
     } else {
       if (!s.hasValue) return fail(2, "--set " + s.arg + ": a text field needs =VALUE");
@@ -213,9 +231,11 @@ bool Session::validate(std::string_view name, Validate valider, const Replacemen
   for (int press = 1; press <= kMaxValidations; ++press) {
     const bool ok = valider();
     for (const Replacement& rep : replaced) {
-      const bool seen = std::any_of(r_.warnings.begin(), r_.warnings.end(), [&](const Replacement& w) {
-        return w.screen == rep.screen && w.control == rep.control && w.typed == rep.typed && w.kept == rep.kept;
-      });
+      const bool seen =
+          std::any_of(r_.warnings.begin(), r_.warnings.end(), [&](const Replacement& w) {
+            return w.screen == rep.screen && w.control == rep.control && w.typed == rep.typed &&
+                   w.kept == rep.kept;
+          });
       if (!seen) r_.warnings.push_back(rep);
     }
     if (ok) return true;
@@ -260,7 +280,8 @@ SetValue parseSet(std::string_view arg, std::string& error) {
     const std::string_view inner = control.substr(open + 1);
     int index = 0;
     const auto [end, ec] = std::from_chars(inner.data(), inner.data() + inner.size(), index);
-    if (ec != std::errc() || end == inner.data() || std::string_view(end, inner.data() + inner.size()) != ")") {
+    if (ec != std::errc() || end == inner.data() ||
+        std::string_view(end, inner.data() + inner.size()) != ")") {
       error = "--set " + s.arg + ": expected an index as CONTROL(i)";
       return s;
     }

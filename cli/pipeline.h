@@ -25,7 +25,7 @@ struct SetValue {
   int index = -1;       // -1: a control that is not an array
   bool hasValue = false;
   std::string value;
-  std::string arg;      // as given, for messages
+  std::string arg;  // as given, for messages
 };
 
 // Empty error on success.
@@ -33,13 +33,15 @@ SetValue parseSet(std::string_view arg, std::string& error);
 
 struct PipelineOptions {
   std::optional<std::filesystem::path> hullFile;  // none: the default hull
-  std::vector<SetValue> sets;                    // in the order given
-  bool autoPlanking = false;  // bouchain3 rather than bouchain2 (so also any bouchain3 set, or nChines > 6)
+  std::vector<SetValue> sets;                     // in the order given
+  bool autoPlanking =
+      false;  // bouchain3 rather than bouchain2 (so also any bouchain3 set, or nChines > 6)
 };
 
 struct PipelineResult {
-  int status = 0;      // 0 done, 1 the file cannot be read, 2 a hull screen does not pass or a set is wrong
-  std::string error;   // why, when status != 0
+  int status =
+      0;  // 0 done, 1 the file cannot be read, 2 a hull screen does not pass or a set is wrong
+  std::string error;  // why, when status != 0
   board::BoardState board;
   Replacements warnings;  // every field a validation replaced, in order
 };

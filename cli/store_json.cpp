@@ -44,8 +44,8 @@ nlohmann::json storeJson(const HullStore& h) {
   j["bowTurn"] = perLine(h.bowTurn, last);
   j["transomTurn"] = perLine(h.transomTurn, last);
   const std::pair<const char*, const LineArr*> values[] = {
-      {"xAft", &h.xAft}, {"yAft", &h.yAft}, {"zAft", &h.zAft}, {"xMax", &h.xMax},
-      {"yMax", &h.yMax}, {"zMax", &h.zMax}, {"xFwd", &h.xFwd}, {"yFwd", &h.yFwd},
+      {"xAft", &h.xAft}, {"yAft", &h.yAft},     {"zAft", &h.zAft},     {"xMax", &h.xMax},
+      {"yMax", &h.yMax}, {"zMax", &h.zMax},     {"xFwd", &h.xFwd},     {"yFwd", &h.yFwd},
       {"zFwd", &h.zFwd}, {"planeA", &h.planeA}, {"planeB", &h.planeB}, {"planeC", &h.planeC}};
   for (const auto& [name, arr] : values) j[name] = perLine(*arr, last);
   j["lineX"] = rows(h.lineX, last, kLastPoint);

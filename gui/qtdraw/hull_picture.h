@@ -14,7 +14,7 @@ namespace tolmar::qtdraw {
 
 struct PictureOptions {
   QSize dots{1600, 1000};
-  int stepIndex = 1;                  // 0 the bottom alone, 1 or 2 the planks too
+  int stepIndex = 1;                   // 0 the bottom alone, 1 or 2 the planks too
   std::optional<std::string> station;  // the text of the board's Text1: a station X to draw
   bool develop = false;    // the plates over the views, as the Developer button draws them
   bool waterline = false;  // the store's water line and centres, as hydro1 leaves them

@@ -12,11 +12,16 @@ namespace {
 // picture (one dot on, two off) and on a 1200 dpi printer.
 QVector<qreal> dashTwips(std::int16_t style) {
   switch (style) {
-    case kStyleDash: return {60, 30};
-    case kStyleDot: return {15, 30};
-    case kStyleDashDot: return {60, 30, 15, 30};
-    case kStyleDashDotDot: return {60, 30, 15, 30, 15, 30};
-    default: return {};
+    case kStyleDash:
+      return {60, 30};
+    case kStyleDot:
+      return {15, 30};
+    case kStyleDashDot:
+      return {60, 30, 15, 30};
+    case kStyleDashDotDot:
+      return {60, 30, 15, 30, 15, 30};
+    default:
+      return {};
   }
 }
 
@@ -76,7 +81,8 @@ QFont PainterSurface::currentFont() const {
 float PainterSurface::TextWidth(std::string_view text) const {
   if (!device_) return 0;
   const QFontMetricsF fm(currentFont(), device_);
-  const double dots = fm.horizontalAdvance(QString::fromUtf8(text.data(), static_cast<int>(text.size())));
+  const double dots =
+      fm.horizontalAdvance(QString::fromUtf8(text.data(), static_cast<int>(text.size())));
   const double twips = scale_.twipsFromDotsX(dots);
   return static_cast<float>(ScaleWidth != 0 && Width() != 0 ? twips * ScaleWidth / Width() : twips);
 }
@@ -85,7 +91,8 @@ float PainterSurface::TextHeight(std::string_view) const {
   if (!device_) return 0;
   const QFontMetricsF fm(currentFont(), device_);
   const double twips = scale_.twipsFromDotsY(fm.height());
-  return static_cast<float>(ScaleHeight != 0 && Height() != 0 ? twips * ScaleHeight / Height() : twips);
+  return static_cast<float>(ScaleHeight != 0 && Height() != 0 ? twips * ScaleHeight / Height()
+                                                              : twips);
 }
 
 void PainterSurface::applyPen(const DrawCall& call) {
@@ -138,18 +145,29 @@ void PainterSurface::clearPicture() {}
 void PainterSurface::render(const DrawCall& call) {
   if (!painter_) return;
   switch (call.op) {
-    case DrawOp::Cls: clearPicture(); return;
-    case DrawOp::NewPage: newPage(); return;
-    case DrawOp::EndDoc: endDoc(); return;
-    default: break;
+    case DrawOp::Cls:
+      clearPicture();
+      return;
+    case DrawOp::NewPage:
+      newPage();
+      return;
+    case DrawOp::EndDoc:
+      endDoc();
+      return;
+    default:
+      break;
   }
   applyPen(call);
   const QPointF a = toDots(call.x1, call.y1);
   switch (call.op) {
     case DrawOp::Line:
     case DrawOp::LineTo:
-    case DrawOp::LineStep: drawSegment(a, toDots(call.x2, call.y2)); break;
-    case DrawOp::LineBox: drawBox(a, toDots(call.x2, call.y2)); break;
+    case DrawOp::LineStep:
+      drawSegment(a, toDots(call.x2, call.y2));
+      break;
+    case DrawOp::LineBox:
+      drawBox(a, toDots(call.x2, call.y2));
+      break;
     case DrawOp::PSet:
       if (finite(a) && clip_.contains(a)) painter_->drawPoint(a);
       break;
@@ -174,7 +192,8 @@ void PainterSurface::render(const DrawCall& call) {
       painter_->drawText(QPointF(a.x(), a.y() + fm.ascent()), QString::fromStdString(call.text));
       break;
     }
-    default: break;
+    default:
+      break;
   }
 }
 

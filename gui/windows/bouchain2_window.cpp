@@ -105,10 +105,14 @@ Bouchain2Window::Bouchain2Window(Session& s)
 
 ControlArray<0, 4>& Bouchain2Window::column(int c) {
   switch (c) {
-    case 0: return m_.Text1;
-    case 1: return m_.Text2;
-    case 2: return m_.Text3;
-    default: return m_.Text4;
+    case 0:
+      return m_.Text1;
+    case 1:
+      return m_.Text2;
+    case 2:
+      return m_.Text3;
+    default:
+      return m_.Text4;
   }
 }
 

@@ -86,10 +86,17 @@ void Session::syncWindows() {
 void Session::showModal(ScreenId s, Actions rest) {
   HullScreenWindow* w = nullptr;
   switch (s) {
-    case ScreenId::bouchain1: w = &bouchain1(); break;
-    case ScreenId::bouchain2: w = &bouchain2(); break;
-    case ScreenId::bouchain3: w = &bouchain3(); break;
-    default: return;
+    case ScreenId::bouchain1:
+      w = &bouchain1();
+      break;
+    case ScreenId::bouchain2:
+      w = &bouchain2();
+      break;
+    case ScreenId::bouchain3:
+      w = &bouchain3();
+      break;
+    default:
+      return;
   }
   afterModal_[s] = std::move(rest);
   w->showModalScreen();
@@ -97,7 +104,9 @@ void Session::showModal(ScreenId s, Actions rest) {
 
 void Session::run(const Action& a) {
   switch (a.what) {
-    case Do::Load: window(a.screen, true); break;
+    case Do::Load:
+      window(a.screen, true);
+      break;
     case Do::Show:
       if (QWidget* w = window(a.screen, true)) {
         w->show();
@@ -126,17 +135,27 @@ void Session::run(const Action& a) {
         dessin_.reset();
       }
       break;
-    case Do::Focus: dessin().focusControl(a.control); break;
-    case Do::AfterModal: board::afterModal(dessin().state(), a.control); break;
-    case Do::ClearPicture: dessin().clearPicture(); break;
+    case Do::Focus:
+      dessin().focusControl(a.control);
+      break;
+    case Do::AfterModal:
+      board::afterModal(dessin().state(), a.control);
+      break;
+    case Do::ClearPicture:
+      dessin().clearPicture();
+      break;
     case Do::Refresh:
       if (QWidget* w = window(a.screen, false)) w->update();
       break;
     case Do::Beep:
       if (beep) beep();
       break;
-    case Do::SaveHullFile: runOnBoard(BoardControl::fmenu_S_Data); break;
-    case Do::OpenHullFile: runOnBoard(BoardControl::fmenu_Open); break;
+    case Do::SaveHullFile:
+      runOnBoard(BoardControl::fmenu_S_Data);
+      break;
+    case Do::OpenHullFile:
+      runOnBoard(BoardControl::fmenu_Open);
+      break;
     case Do::Run:
       if (a.control == BoardControl::dessine) {
         dessin().dessineAction();
@@ -153,12 +172,18 @@ void Session::run(const Action& a) {
 
 QWidget* Session::window(ScreenId s, bool load) {
   switch (s) {
-    case ScreenId::menu2: return load ? &menu2() : menu2_.get();
-    case ScreenId::dessin: return load ? &dessin() : dessin_.get();
-    case ScreenId::bouchain1: return load ? &bouchain1() : bouchain1_.get();
-    case ScreenId::bouchain2: return load ? &bouchain2() : bouchain2_.get();
-    case ScreenId::bouchain3: return load ? &bouchain3() : bouchain3_.get();
-    default: return nullptr;  // overlap1 and the analysis screens live with the board's commands
+    case ScreenId::menu2:
+      return load ? &menu2() : menu2_.get();
+    case ScreenId::dessin:
+      return load ? &dessin() : dessin_.get();
+    case ScreenId::bouchain1:
+      return load ? &bouchain1() : bouchain1_.get();
+    case ScreenId::bouchain2:
+      return load ? &bouchain2() : bouchain2_.get();
+    case ScreenId::bouchain3:
+      return load ? &bouchain3() : bouchain3_.get();
+    default:
+      return nullptr;  // overlap1 and the analysis screens live with the board's commands
   }
 }
 

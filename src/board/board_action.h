@@ -13,19 +13,19 @@ namespace tolmar::board {
 enum class ScreenId { menu2, dessin, bouchain1, bouchain2, bouchain3, overlap1, hydro1, mass1 };
 
 enum class Do {
-  Load,           // load `screen` without showing it
-  Show,           // show `screen` modeless
-  ShowModal,      // show `screen` modal; the next steps wait for its end
-  Hide,           // hide `screen`
-  Unload,         // drop `screen`: the next show loads it afresh
-  Focus,          // keyboard focus on the board's `control`; on `dessine` that redraws
-  AfterModal,     // call the board's afterModal(`control`) (Command1(i) after its screen)
-  ClearPicture,   // Cls of Plan1
-  Refresh,        // repaint `screen`
+  Load,          // load `screen` without showing it
+  Show,          // show `screen` modeless
+  ShowModal,     // show `screen` modal; the next steps wait for its end
+  Hide,          // hide `screen`
+  Unload,        // drop `screen`: the next show loads it afresh
+  Focus,         // keyboard focus on the board's `control`; on `dessine` that redraws
+  AfterModal,    // call the board's afterModal(`control`) (Command1(i) after its screen)
+  ClearPicture,  // Cls of Plan1
+  Refresh,       // repaint `screen`
   Beep,
-  SaveHullFile,   // the Save of the hull file, with its dialog
-  OpenHullFile,   // the Open of a hull file, with its dialog
-  Run,            // the command of the board's `control` (develop, an export, a print...)
+  SaveHullFile,  // the Save of the hull file, with its dialog
+  OpenHullFile,  // the Open of a hull file, with its dialog
+  Run,           // the command of the board's `control` (develop, an export, a print...)
   EndProgram,
 };
 

@@ -56,7 +56,9 @@ constexpr std::size_t index(BoardControl c) { return static_cast<std::size_t>(c)
 
 // Command1(i), i = 0..2; any other i gives Command1(0).
 constexpr BoardControl command1(int i) {
-  return i == 1 ? BoardControl::Command1_1 : i == 2 ? BoardControl::Command1_2 : BoardControl::Command1_0;
+  return i == 1   ? BoardControl::Command1_1
+         : i == 2 ? BoardControl::Command1_2
+                  : BoardControl::Command1_0;
 }
 
 // The name as the program writes it: "Command1(1)", "fmenu_S_DXF2D".
@@ -71,10 +73,10 @@ std::string_view boardTitle(int langue);
 
 struct MenuEntry {
   BoardControl control;
-  int level;                 // 0 top, 1 entry of a top menu, 2 entry of a sub-menu
+  int level;  // 0 top, 1 entry of a top menu, 2 entry of a sub-menu
   bool separator;
-  std::string_view key;      // "Ctrl+N", empty for none
-  bool actsOnClick;          // a top entry that runs a command instead of opening
+  std::string_view key;  // "Ctrl+N", empty for none
+  bool actsOnClick;      // a top entry that runs a command instead of opening
 };
 
 // The whole menu in its order of display.

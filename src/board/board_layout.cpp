@@ -12,8 +12,8 @@ BoardLayout loadLayout(double displayWidth, double displayHeight) {
   l.cancel.width = 1000;
   for (Rect& r : l.command1) r.width = 1400;
   l.dessCouple.width = 1400;
-  for (Rect* r : {&l.dessine, &l.developer, &l.cancel, &l.command1[0], &l.command1[1], &l.command1[2],
-                  &l.dessCouple})
+  for (Rect* r : {&l.dessine, &l.developer, &l.cancel, &l.command1[0], &l.command1[1],
+                  &l.command1[2], &l.dessCouple})
     r->height = 400;
   l.label1.width = 1000;
   l.label1.height = 200;

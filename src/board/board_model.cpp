@@ -33,8 +33,8 @@ ScreenId hullScreen(int i) {
 }
 
 Actions endOfHullScreen(ScreenId s) {
-  return {onScreen(Do::Hide, s), onControl(Do::Focus, C::dessine), onScreen(Do::Refresh, ScreenId::dessin),
-          onScreen(Do::Show, ScreenId::dessin)};
+  return {onScreen(Do::Hide, s), onControl(Do::Focus, C::dessine),
+          onScreen(Do::Refresh, ScreenId::dessin), onScreen(Do::Show, ScreenId::dessin)};
 }
 
 // Upper case of ASCII and of the Latin-1 letters à..þ (UTF-8 C3 A0..C3 BE,
@@ -55,8 +55,8 @@ std::string upper(std::string s) {
 
 // Length of a UTF-8 text in characters, and its first n characters.
 std::size_t charCount(const std::string& s) {
-  return static_cast<std::size_t>(
-      std::count_if(s.begin(), s.end(), [](char ch) { return (static_cast<unsigned char>(ch) & 0xC0) != 0x80; }));
+  return static_cast<std::size_t>(std::count_if(
+      s.begin(), s.end(), [](char ch) { return (static_cast<unsigned char>(ch) & 0xC0) != 0x80; }));
 }
 
 std::string firstChars(const std::string& s, std::size_t n) {
@@ -73,7 +73,8 @@ std::string firstChars(const std::string& s, std::size_t n) {
 }  // namespace
 
 std::string titleNew(const HullStore& h) {
-  return std::string(kProduct) + (h.langue == 0 ? "  -  Nouvelle tolmar : " : "  -  New Hull : ") + h.hullName;
+  return std::string(kProduct) + (h.langue == 0 ? "  -  Nouvelle tolmar : " : "  -  New Hull : ") +
+         h.hullName;
 }
 
 std::string titleNewHull(int langue) {
@@ -81,7 +82,8 @@ std::string titleNewHull(int langue) {
 }
 
 std::string titleFileOpen(const HullStore& h) {
-  return std::string(kProduct) + (h.langue == 1 ? " - File Open : " : " - Fichier Ouvert : ") + h.hullName;
+  return std::string(kProduct) + (h.langue == 1 ? " - File Open : " : " - Fichier Ouvert : ") +
+         h.hullName;
 }
 
 std::string titleDataSaved(int langue) {
@@ -104,8 +106,9 @@ void boardOnCreate(BoardState& b, const HullStore& h) {
   b.title = titleNew(h);
   b.enable(C::Command1_0);
   set(b,
-      {C::Command1_1, C::Command1_2, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ, C::fmenu_S_DXF2D,
-       C::fmenu_S_DXF3D, C::fmenu_SD_XYZ, C::fmenu_SD_DXF, C::fmenu_S_VRML, C::fmenu_Station_DXF},
+      {C::Command1_1, C::Command1_2, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ,
+       C::fmenu_S_DXF2D, C::fmenu_S_DXF3D, C::fmenu_SD_XYZ, C::fmenu_SD_DXF, C::fmenu_S_VRML,
+       C::fmenu_Station_DXF},
       false);
 }
 
@@ -162,14 +165,14 @@ Actions endOfBouchain3(BoardState& b, const HullStore& h) {
 Action afterRedraw(BoardState& b, const HullStore& h) {
   if (b.stepIndex >= 1) {
     set(b,
-        {C::Developer, C::DessCouple, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ, C::fmenu_S_DXF2D,
-         C::fmenu_S_DXF3D, C::fmenu_SD_XYZ, C::fmenu_SD_DXF, C::fmenu_S_VRML},
+        {C::Developer, C::DessCouple, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ,
+         C::fmenu_S_DXF2D, C::fmenu_S_DXF3D, C::fmenu_SD_XYZ, C::fmenu_SD_DXF, C::fmenu_S_VRML},
         true);
     return onControl(Do::Focus, C::Developer);
   }
   set(b,
-      {C::DessCouple, C::fmenu_S_XYZ, C::fmenu_S_DXF2D, C::fmenu_S_DXF3D, C::fmenu_SD_XYZ, C::fmenu_SD_DXF,
-       C::fmenu_Station_DXF, C::fmenu_S_VRML},
+      {C::DessCouple, C::fmenu_S_XYZ, C::fmenu_S_DXF2D, C::fmenu_S_DXF3D, C::fmenu_SD_XYZ,
+       C::fmenu_SD_DXF, C::fmenu_Station_DXF, C::fmenu_S_VRML},
       false);
   set(b, {C::Developer, C::fmenu_P_Tout, C::fmenu_P_Develop}, true);
   const bool fewLines = h.nChines <= 6;
@@ -230,7 +233,9 @@ Actions openBeforeRebuild(BoardState& b) {
 }
 
 Actions openAfterRebuild(BoardState& b) {
-  set(b, {C::dessine, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ, C::fmenu_S_DXF2D, C::fmenu_S_DXF3D},
+  set(b,
+      {C::dessine, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ, C::fmenu_S_DXF2D,
+       C::fmenu_S_DXF3D},
       true);
   b.enable(C::fmenu_Station_DXF, false);
   return command1Press(b, 0);
@@ -242,26 +247,38 @@ Actions saveDone(BoardState& b, const HullStore& h) {
   return {onControl(Do::Focus, C::Cancel)};
 }
 
-Actions closeBoard() { return {onScreen(Do::Unload, ScreenId::dessin), onScreen(Do::Show, ScreenId::menu2)}; }
+Actions closeBoard() {
+  return {onScreen(Do::Unload, ScreenId::dessin), onScreen(Do::Show, ScreenId::menu2)};
+}
 
 Actions press(BoardState& b, HullStore& h, BoardControl c) {
   if (!b.isEnabled(c)) return {};
   switch (c) {
-    case C::Command1_0: return command1Press(b, 0);
-    case C::Command1_1: return command1Press(b, 1);
-    case C::Command1_2: return command1Press(b, 2);
+    case C::Command1_0:
+      return command1Press(b, 0);
+    case C::Command1_1:
+      return command1Press(b, 1);
+    case C::Command1_2:
+      return command1Press(b, 2);
     case C::Cancel:
       return {onScreen(Do::SaveHullFile, ScreenId::dessin), onScreen(Do::Hide, ScreenId::bouchain1),
               onScreen(Do::Hide, ScreenId::bouchain2),      onScreen(Do::Hide, ScreenId::bouchain3),
               onScreen(Do::Hide, ScreenId::dessin),         onScreen(Do::Show, ScreenId::menu2)};
-    case C::fmenu_New: return fmenuNew(b, h);
-    case C::fmenu_Open: return {onScreen(Do::OpenHullFile, ScreenId::dessin)};
-    case C::fmenu_S_Data: return {onScreen(Do::SaveHullFile, ScreenId::dessin)};
-    case C::fmenu_SD_DXF: return {onScreen(Do::ShowModal, ScreenId::overlap1), onControl(Do::Run, c)};
+    case C::fmenu_New:
+      return fmenuNew(b, h);
+    case C::fmenu_Open:
+      return {onScreen(Do::OpenHullFile, ScreenId::dessin)};
+    case C::fmenu_S_Data:
+      return {onScreen(Do::SaveHullFile, ScreenId::dessin)};
+    case C::fmenu_SD_DXF:
+      return {onScreen(Do::ShowModal, ScreenId::overlap1), onControl(Do::Run, c)};
     case C::fmenu_Station_DXF:
-    case C::fmenu_P_Station: return {onControl(Do::Run, C::DessCouple), onControl(Do::Run, c)};
-    case C::fmenu_Quit: return {onScreen(Do::Show, ScreenId::menu2)};
-    case C::Hmenu: return {onScreen(Do::Show, ScreenId::hydro1), onScreen(Do::Show, ScreenId::mass1)};
+    case C::fmenu_P_Station:
+      return {onControl(Do::Run, C::DessCouple), onControl(Do::Run, c)};
+    case C::fmenu_Quit:
+      return {onScreen(Do::Show, ScreenId::menu2)};
+    case C::Hmenu:
+      return {onScreen(Do::Show, ScreenId::hydro1), onScreen(Do::Show, ScreenId::mass1)};
     case C::Plan1:
     case C::Label1:
     case C::Label2:
@@ -272,21 +289,31 @@ Actions press(BoardState& b, HullStore& h, BoardControl c) {
     case C::fmenu_Print:
     case C::separ0:
     case C::separ1:
-    case C::separ2: return {};
-    default: return {onControl(Do::Run, c)};
+    case C::separ2:
+      return {};
+    default:
+      return {onControl(Do::Run, c)};
   }
 }
 
 std::string_view screenName(ScreenId s) {
   switch (s) {
-    case ScreenId::menu2: return "menu2";
-    case ScreenId::dessin: return "dessin";
-    case ScreenId::bouchain1: return "bouchain1";
-    case ScreenId::bouchain2: return "bouchain2";
-    case ScreenId::bouchain3: return "bouchain3";
-    case ScreenId::overlap1: return "overlap1";
-    case ScreenId::hydro1: return "hydro1";
-    case ScreenId::mass1: return "mass1";
+    case ScreenId::menu2:
+      return "menu2";
+    case ScreenId::dessin:
+      return "dessin";
+    case ScreenId::bouchain1:
+      return "bouchain1";
+    case ScreenId::bouchain2:
+      return "bouchain2";
+    case ScreenId::bouchain3:
+      return "bouchain3";
+    case ScreenId::overlap1:
+      return "overlap1";
+    case ScreenId::hydro1:
+      return "hydro1";
+    case ScreenId::mass1:
+      return "mass1";
   }
   return "";
 }

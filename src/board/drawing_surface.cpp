@@ -39,7 +39,9 @@ float DrawingSurface::twipY(float y) const {
   return (y - ScaleTop) * (height_ / ScaleHeight);
 }
 
-void DrawingSurface::Line(float x1, float y1, float x2, float y2) { Line(x1, y1, x2, y2, ForeColor); }
+void DrawingSurface::Line(float x1, float y1, float x2, float y2) {
+  Line(x1, y1, x2, y2, ForeColor);
+}
 
 void DrawingSurface::Line(float x1, float y1, float x2, float y2, Colour c) {
   DrawCall call = pen(DrawOp::Line);

@@ -128,7 +128,8 @@ PlanResult PlanMouse::buttonUp(int button, float x, float y) {
   } else {
     if (b_.rubberX1 < b_.rubberX0) std::swap(b_.rubberX0, b_.rubberX1);
     if (b_.rubberY1 < b_.rubberY0) std::swap(b_.rubberY0, b_.rubberY1);
-    if (!zoomToBox(h_, b_.rubberX0, b_.rubberY0, b_.rubberX1, b_.rubberY1, s_.ScaleWidth, s_.ScaleHeight))
+    if (!zoomToBox(h_, b_.rubberX0, b_.rubberY0, b_.rubberX1, b_.rubberY1, s_.ScaleWidth,
+                   s_.ScaleHeight))
       return PlanResult::Nothing;
   }
   s_.Cls();

@@ -47,7 +47,7 @@ class PlanMouse {
   bool dragging() const { return dragging_; }
 
  private:
-  void drawBox(float xc, float yc);    // box and cross to corner (xc, yc)
+  void drawBox(float xc, float yc);  // box and cross to corner (xc, yc)
   void drawVector(float xc, float yc);
 
   DrawingSurface& s_;

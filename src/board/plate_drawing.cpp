@@ -63,7 +63,8 @@ void drawDevBottom(DrawingSurface& s, const HullStore& h, int last) {
   s.ForeColor = lineColour(h, 0);
   s.DrawStyle = kStyleDot;
   devOutline(s, h, last, [&](double x, double y) {
-    return ViewPoint{static_cast<float>(h.originX + h.scaleX * x), static_cast<float>(h.originY + h.scaleY * y)};
+    return ViewPoint{static_cast<float>(h.originX + h.scaleX * x),
+                     static_cast<float>(h.originY + h.scaleY * y)};
   });
   s.DrawStyle = kStyleSolid;
 }
@@ -82,7 +83,8 @@ void drawDevPlank(DrawingSurface& s, const HullStore& h, int last, int colourInd
 
 void drawTransomPlate(DrawingSurface& s, const HullStore& h) {
   endPlate(s, h, h.transomPlate, h.transomTurn, [&](double d, double y) {
-    return ViewPoint{static_cast<float>(h.originX + 300 + h.scaleX * d), static_cast<float>(h.originY + h.scaleY * y)};
+    return ViewPoint{static_cast<float>(h.originX + 300 + h.scaleX * d),
+                     static_cast<float>(h.originY + h.scaleY * y)};
   });
 }
 

@@ -15,8 +15,9 @@ void drawStation(DrawingSurface& s, const HullStore& h) {
   s.ForeColor = lineColour(h, 4);
   s.PSet(px(h, h.stationX(st, 0)), pz(h, h.stationZ(st, 0)));
   for (int j = 1; j <= last; ++j) {
-    s.LineTo(static_cast<float>((sign * h.stationY(st, j) + h.stationX(st, j)) * h.scaleX + h.originX),
-             pz(h, h.stationZ(st, j)));
+    s.LineTo(
+        static_cast<float>((sign * h.stationY(st, j) + h.stationX(st, j)) * h.scaleX + h.originX),
+        pz(h, h.stationZ(st, j)));
   }
   s.LineTo(px(h, h.stationX(st, last)), pz(h, h.stationZ(st, last)));
 

@@ -7,9 +7,15 @@
 
 namespace tolmar {
 
-inline float px(const HullStore& h, double x) { return static_cast<float>(h.scaleX * x + h.originX); }
-inline float py(const HullStore& h, double y) { return static_cast<float>(h.scaleY * y + h.originY); }
-inline float pz(const HullStore& h, double z) { return static_cast<float>(h.scaleZ * z + h.originZ); }
+inline float px(const HullStore& h, double x) {
+  return static_cast<float>(h.scaleX * x + h.originX);
+}
+inline float py(const HullStore& h, double y) {
+  return static_cast<float>(h.scaleY * y + h.originY);
+}
+inline float pz(const HullStore& h, double z) {
+  return static_cast<float>(h.scaleZ * z + h.originZ);
+}
 
 struct ViewPoint {
   float x = 0, y = 0;
@@ -28,7 +34,7 @@ inline ViewPoint profilePoint(const HullStore& h, int l, int i) {
 // Section view: station slot s, section point j, on side +1 or -1 of the
 // axis at bodyAxis; side 0 puts the point on the axis.
 inline ViewPoint sectionPoint(const HullStore& h, int s, int j, int side) {
-  const double y = side > 0 ? h.bodyAxis + h.stationY(s, j)
+  const double y = side > 0   ? h.bodyAxis + h.stationY(s, j)
                    : side < 0 ? h.bodyAxis - h.stationY(s, j)
                               : static_cast<double>(h.bodyAxis);
   return {px(h, y), pz(h, h.stationZ(s, j))};

@@ -21,9 +21,7 @@ void unrollSection(const HullStore& h, int s, EndPlate& plate) {
 
 }  // namespace
 
-int lastSectionPoint(const HullStore& h) {
-  return std::clamp(h.nChines + 9, 0, EndPlate::colHi);
-}
+int lastSectionPoint(const HullStore& h) { return std::clamp(h.nChines + 9, 0, EndPlate::colHi); }
 
 void calcTransomPlate(HullStore& h) { unrollSection(h, 0, h.transomPlate); }
 

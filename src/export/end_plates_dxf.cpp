@@ -67,7 +67,8 @@ ExportFile stationDxfFile(const HullStore& h, int s) {
 }
 
 ExportOutcome stationFileDXF(ExportHost& host, HullStore& h, int s) {
-  return runExport(host, h, stationDxfFile(h, s), [&](TextSink& out) { writeStationFile(out, h, s); });
+  return runExport(host, h, stationDxfFile(h, s),
+                   [&](TextSink& out) { writeStationFile(out, h, s); });
 }
 
 }  // namespace tolmar

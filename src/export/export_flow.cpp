@@ -26,7 +26,8 @@ std::string nameStem(std::string_view hullName) {
 ExportOutcome runExport(ExportHost& host, HullStore& h, const ExportFile& file,
                         const std::function<void(TextSink&)>& write) {
   host.setBusy(true);
-  const auto choice = host.askSaveFile({file.title, file.filter, file.defaultName, file.initialFolder});
+  const auto choice =
+      host.askSaveFile({file.title, file.filter, file.defaultName, file.initialFolder});
   if (!choice) {
     host.setBusy(false);
     return ExportOutcome::cancelled;

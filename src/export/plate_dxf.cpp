@@ -81,8 +81,9 @@ void plate(TextSink& out, HullStore& h, SheetState& s, int n, bool lap) {
   auto up = [&](int i) { return FlatPoint{h.devXs(i), h.devYs(i)}; };
   outline(out, s, layer, lap ? 5 : c, last, low, up);
   if (lap)
-    outline(out, s, layer, 1, last, [&](int i) { return cut.low(i); },
-            [&](int i) { return cut.up(i); });
+    outline(
+        out, s, layer, 1, last, [&](int i) { return cut.low(i); },
+        [&](int i) { return cut.up(i); });
 
   const int m = std::clamp<int>(h.iMaxBeam, 0, last);
   {
@@ -142,9 +143,14 @@ void writeDeckFile(TextSink& out, HullStore& h, int lastDeck) {
     const auto layer = static_cast<i16>(n);
     dxfText(out, "deck" + hullNumberText(n), size, h.devXi(kNameFrom),
             size + h.devYi(kNameFrom) + s.sheetOff, nameAngle(h), layer, 7);
-    outline(out, s, layer, static_cast<i16>(7 - n % 3), kPlankLastPoint,
-            [&](int i) { return FlatPoint{h.devXi(i), h.devYi(i)}; },
-            [&](int i) { return FlatPoint{h.devXs(i), h.devYs(i)}; });
+    outline(
+        out, s, layer, static_cast<i16>(7 - n % 3), kPlankLastPoint,
+        [&](int i) {
+          return FlatPoint{h.devXi(i), h.devYi(i)};
+        },
+        [&](int i) {
+          return FlatPoint{h.devXs(i), h.devYs(i)};
+        });
     s.next();
   }
   dxfEndSec(out);

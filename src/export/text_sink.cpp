@@ -89,6 +89,8 @@ bool FileSink::commit() {
   return true;
 }
 
-std::string FileSink::errorText() const { return error_ == 0 ? std::string() : std::strerror(error_); }
+std::string FileSink::errorText() const {
+  return error_ == 0 ? std::string() : std::strerror(error_);
+}
 
 }  // namespace tolmar

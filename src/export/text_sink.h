@@ -43,7 +43,7 @@ class FileSink final : public TextSink {
   // so far or now, with the temporary file removed.
   bool commit();
 
-  void fail(int err);  // records err (errno) as the failure if there was none yet
+  void fail(int err);                   // records err (errno) as the failure if there was none yet
   int error() const { return error_; }  // errno of the first failure, 0 if none
   std::string errorText() const;        // the system's text of that error
 

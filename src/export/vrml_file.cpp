@@ -14,10 +14,14 @@ std::string idx(int i) { return i < 0 ? std::to_string(i) : " " + std::to_string
 
 const char* plateColour(int k) {
   switch (k) {
-    case 0: return "1 0 0";
-    case 1: return "0 1 0";
-    case 2: return "0 0 1";
-    default: return ".9 .9 .7";
+    case 0:
+      return "1 0 0";
+    case 1:
+      return "0 1 0";
+    case 2:
+      return "0 0 1";
+    default:
+      return ".9 .9 .7";
   }
 }
 

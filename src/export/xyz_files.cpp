@@ -101,7 +101,8 @@ void writePanelXyz(TextSink& out, const HullStore& h, const EndPlate& t, bool tr
   out.line(transom ? "Half transom development " : "Half bow plate development ");
   out.line("");
   out.line(transom ? "point \t   Y \t    Z " : "point \t    Y \t    Z ");
-  for (int j = 0; j <= m; ++j) out.line(pointNo(j) + kTab + panelF(t(2, j)) + kTab + panelF(t(1, j)));
+  for (int j = 0; j <= m; ++j)
+    out.line(pointNo(j) + kTab + panelF(t(2, j)) + kTab + panelF(t(1, j)));
   out.line(" CL \t" + panelF(t(2, 0)) + kTab + panelF(t(1, m)));
   out.line("");
   out.line(transom ? "EOF " : "EOF");
@@ -109,7 +110,9 @@ void writePanelXyz(TextSink& out, const HullStore& h, const EndPlate& t, bool tr
 
 }  // namespace
 
-void writeTransomXyz(TextSink& out, const HullStore& h) { writePanelXyz(out, h, h.transomPlate, true); }
+void writeTransomXyz(TextSink& out, const HullStore& h) {
+  writePanelXyz(out, h, h.transomPlate, true);
+}
 void writeBowXyz(TextSink& out, const HullStore& h) { writePanelXyz(out, h, h.bowPlate, false); }
 
 ExportFile linesXyzFile(const HullStore& h) {

@@ -65,8 +65,7 @@ FileResult readHullFile(std::istream& in, bool noShapeFwd, HullStore& h);
 // characters are "51"), then lineX, lineY, lineZ cleared and rebuilt by
 // buildBottomLines, buildBottomEdges and buildLine(2..nChines), busy
 // called with each n.  Planes and line ends stay as the file gives them.
-FileResult openHullFile(const std::filesystem::path& path, HullStore& h,
-                        const BusyStep& busy = {});
+FileResult openHullFile(const std::filesystem::path& path, HullStore& h, const BusyStep& busy = {});
 
 // hullName from a file name without its folders: cut at the first "." when
 // that stands beyond the first character ("Dory.D50" -> "Dory",

@@ -91,7 +91,7 @@ FileResult saveHullFile(const std::filesystem::path& path, HullStore& h) {
     if (fd < 0 && errno != EEXIST) return systemError(errno);
   }
   if (fd < 0) return systemError(EEXIST);
-  struct stat old{};
+  struct stat old {};
   if (::stat(path.c_str(), &old) == 0 && S_ISREG(old.st_mode)) ::fchmod(fd, old.st_mode & 07777);
   if (!writeAll(fd, text.str())) {
     const int err = errno;

@@ -67,14 +67,12 @@ class Grid {
   void fill(const T& x) { v_.fill(x); }
   bool operator==(const Grid&) const = default;
 
-  TableRef ref() const
-    requires std::is_same_v<T, double>
-  {
+  TableRef ref() const requires std::is_same_v<T, double> {
     return TableRef{v_.data(), R0, R1, C0, C1};
   }
 
  private:
-  std::array<T, static_cast<std::size_t>(rows * cols)> v_{};
+  std::array<T, static_cast<std::size_t>(rows* cols)> v_{};
 };
 
 }  // namespace tolmar

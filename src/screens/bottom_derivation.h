@@ -34,5 +34,4 @@ struct ChineEndsSettled {
 };
 ChineEndsSettled chineEndsSettled(const HullStore& h);
 
-
 }  // namespace tolmar

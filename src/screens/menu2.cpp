@@ -72,7 +72,9 @@ void langueClick(Menu2& m, HullStore& h, int i) {
   } else {
     m.Create.caption = "Create a hull";
     m.Terminate.caption = "Quit";
-    m.Label3.caption = "The author takes no responsibility for the consequences resulting from the use of this software.";
+    m.Label3.caption =
+        "The author takes no responsibility for the consequences resulting from the use of this "
+        "software.";
   }
 }
 

@@ -48,9 +48,12 @@ std::string adviceNumber(double v) { return hullNumberText(v); }
 
 Field& Overlap1::field(Group g, int index) {
   switch (g) {
-    case Group::text1: return Text1(index);
-    case Group::text2: return Text2(index);
-    case Group::text3: break;
+    case Group::text1:
+      return Text1(index);
+    case Group::text2:
+      return Text2(index);
+    case Group::text3:
+      break;
   }
   return Text3(index);
 }
@@ -208,9 +211,9 @@ void Overlap1::adviseSide(const HullStore& /*h*/, int i) {
   }
   Field copy = Text2(0);
   cleanField(copy);
-  Label8(1).caption =
-      std::string(langue_ != 1 ? "Largeur de recouvrement proposée " : "Recommended width of overlap ") +
-      adviceNumber(3 * fieldValue(copy)) + "mm ";
+  Label8(1).caption = std::string(langue_ != 1 ? "Largeur de recouvrement proposée "
+                                               : "Recommended width of overlap ") +
+                      adviceNumber(3 * fieldValue(copy)) + "mm ";
 }
 
 void Overlap1::clickCommand1(HullStore& h, int i) {

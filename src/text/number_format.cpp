@@ -77,8 +77,10 @@ std::string scaledDigits(double a, int nFrac) {
   if (up) {
     std::size_t i = k;
     while (i > 0 && d[i - 1] == '9') d[--i] = '0';
-    if (i == 0) d.insert(d.begin(), '1');
-    else ++d[i - 1];
+    if (i == 0)
+      d.insert(d.begin(), '1');
+    else
+      ++d[i - 1];
   }
   return d;
 }
@@ -89,15 +91,18 @@ std::string formatSection(double a, const Section& s) {
     for (const auto& t : s) out += t.kind == Tok::Point ? "." : t.text;
     return out;
   }
-  const auto point = std::find_if(s.begin(), s.end(), [](const Token& t) { return t.kind == Tok::Point; });
+  const auto point =
+      std::find_if(s.begin(), s.end(), [](const Token& t) { return t.kind == Tok::Point; });
   int nInt = 0, minInt = 0, nFrac = 0, minFrac = 0;
   for (auto it = s.begin(); it != s.end(); ++it) {
     const bool digit = it->kind == Tok::Zero || it->kind == Tok::Hash;
     if (!digit) continue;
     if (it < point) {
       ++nInt;
-      if (it->kind == Tok::Zero && minInt == 0) minInt = 1;
-      else if (minInt > 0) ++minInt;
+      if (it->kind == Tok::Zero && minInt == 0)
+        minInt = 1;
+      else if (minInt > 0)
+        ++minInt;
     } else {
       ++nFrac;
       if (it->kind == Tok::Zero) minFrac = nFrac;
@@ -118,7 +123,9 @@ std::string formatSection(double a, const Section& s) {
   int intIndex = 0, fracIndex = 0;
   for (auto it = s.begin(); it != s.end(); ++it) {
     switch (it->kind) {
-      case Tok::Literal: out += it->text; break;
+      case Tok::Literal:
+        out += it->text;
+        break;
       case Tok::Point:
         if (it == point) {
           if (nInt == 0) out += intDigits;
@@ -129,11 +136,13 @@ std::string formatSection(double a, const Section& s) {
       case Tok::Hash:
         if (it < point) {
           const int fromRight = nInt - 1 - intIndex;
-          if (intIndex == 0 && len > nInt) out += intDigits.substr(0, static_cast<std::size_t>(len - nInt));
+          if (intIndex == 0 && len > nInt)
+            out += intDigits.substr(0, static_cast<std::size_t>(len - nInt));
           if (fromRight < len) out += intDigits[static_cast<std::size_t>(len - 1 - fromRight)];
           ++intIndex;
         } else {
-          if (static_cast<std::size_t>(fracIndex) < frac.size()) out += frac[static_cast<std::size_t>(fracIndex)];
+          if (static_cast<std::size_t>(fracIndex) < frac.size())
+            out += frac[static_cast<std::size_t>(fracIndex)];
           ++fracIndex;
         }
         break;

@@ -31,8 +31,10 @@ long roughExponent(std::string_view num) {
   }
   if (i < num.size() && num[i] == '.') {
     for (++i; i < num.size() && isDigit(num[i]) && !seen; ++i) {
-      if (num[i] == '0') ++leadFracZeros;
-      else seen = true;
+      if (num[i] == '0')
+        ++leadFracZeros;
+      else
+        seen = true;
     }
     i = skipDigits(num, i);
   }

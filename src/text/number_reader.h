@@ -10,9 +10,9 @@
 namespace tolmar {
 
 struct NumberScan {
-  double value = 0;         // always finite
-  std::size_t length = 0;   // characters used, leading blanks included; 0 if no number
-  bool overflow = false;    // the text's value lies beyond the largest double
+  double value = 0;        // always finite
+  std::size_t length = 0;  // characters used, leading blanks included; 0 if no number
+  bool overflow = false;   // the text's value lies beyond the largest double
 };
 
 // Skips leading blanks and tabs, then reads the longest prefix of the form

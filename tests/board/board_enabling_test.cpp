@@ -26,17 +26,18 @@ BoardState apply(BoardState b, const Row& r) {
   return b;
 }
 
-const std::vector<C> kSevenEntries{C::fmenu_P_Tout,  C::fmenu_P_Develop,   C::fmenu_S_XYZ, C::fmenu_S_DXF2D,
-                                   C::fmenu_S_DXF3D, C::fmenu_Station_DXF, C::fmenu_S_VRML};
+const std::vector<C> kSevenEntries{C::fmenu_P_Tout,  C::fmenu_P_Develop, C::fmenu_S_XYZ,
+                                   C::fmenu_S_DXF2D, C::fmenu_S_DXF3D,   C::fmenu_Station_DXF,
+                                   C::fmenu_S_VRML};
 
 std::vector<C> plus(std::vector<C> a, std::initializer_list<C> more) {
   a.insert(a.end(), more);
   return a;
 }
 
-const Row kCreate{{C::Command1_1, C::Command1_2, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ,
-                   C::fmenu_S_DXF2D, C::fmenu_S_DXF3D, C::fmenu_SD_XYZ, C::fmenu_SD_DXF, C::fmenu_S_VRML,
-                   C::fmenu_Station_DXF},
+const Row kCreate{{C::Command1_1, C::Command1_2, C::fmenu_P_Tout, C::fmenu_P_Develop,
+                   C::fmenu_S_XYZ, C::fmenu_S_DXF2D, C::fmenu_S_DXF3D, C::fmenu_SD_XYZ,
+                   C::fmenu_SD_DXF, C::fmenu_S_VRML, C::fmenu_Station_DXF},
                   {C::Command1_0}};
 const Row kNew{plus(kSevenEntries, {C::Command1_1, C::dessine}), {C::Command1_0}};
 const Row kPress{kSevenEntries, {C::dessine}};
@@ -47,18 +48,22 @@ const Row kEnd1Many{{C::Command1_1}, {C::Command1_0, C::Command1_2, C::dessine}}
 const Row kEnd2{{}, {C::Command1_0, C::Command1_1, C::dessine}};
 const Row kEnd3Few{{}, {C::Command1_0, C::Command1_1, C::dessine}};
 const Row kEnd3Many{{C::Command1_1}, {C::Command1_0, C::dessine}};
-const std::vector<C> kRedraw0Off{C::DessCouple,   C::fmenu_S_XYZ,  C::fmenu_S_DXF2D,      C::fmenu_S_DXF3D,
-                                 C::fmenu_SD_XYZ, C::fmenu_SD_DXF, C::fmenu_Station_DXF, C::fmenu_S_VRML};
-const Row kRedraw0Few{kRedraw0Off, {C::Developer, C::Command1_1, C::fmenu_P_Tout, C::fmenu_P_Develop}};
-const Row kRedraw0Many{plus(kRedraw0Off, {C::Command1_1}), {C::Developer, C::fmenu_P_Tout, C::fmenu_P_Develop}};
-const Row kRedraw1{{},
-                   {C::Developer, C::DessCouple, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ,
-                    C::fmenu_S_DXF2D, C::fmenu_S_DXF3D, C::fmenu_SD_XYZ, C::fmenu_SD_DXF, C::fmenu_S_VRML}};
+const std::vector<C> kRedraw0Off{C::DessCouple,        C::fmenu_S_XYZ,  C::fmenu_S_DXF2D,
+                                 C::fmenu_S_DXF3D,     C::fmenu_SD_XYZ, C::fmenu_SD_DXF,
+                                 C::fmenu_Station_DXF, C::fmenu_S_VRML};
+const Row kRedraw0Few{kRedraw0Off,
+                      {C::Developer, C::Command1_1, C::fmenu_P_Tout, C::fmenu_P_Develop}};
+const Row kRedraw0Many{plus(kRedraw0Off, {C::Command1_1}),
+                       {C::Developer, C::fmenu_P_Tout, C::fmenu_P_Develop}};
+const Row kRedraw1{
+    {},
+    {C::Developer, C::DessCouple, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ,
+     C::fmenu_S_DXF2D, C::fmenu_S_DXF3D, C::fmenu_SD_XYZ, C::fmenu_SD_DXF, C::fmenu_S_VRML}};
 const Row kDrawStation{{}, {C::fmenu_Station_DXF}};
 const Row kOpenBefore{{C::Command1_1, C::Command1_2, C::DessCouple, C::Developer}, {C::Command1_0}};
 const Row kOpenAfter{{C::fmenu_Station_DXF},
-                     {C::dessine, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ, C::fmenu_S_DXF2D,
-                      C::fmenu_S_DXF3D}};
+                     {C::dessine, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ,
+                      C::fmenu_S_DXF2D, C::fmenu_S_DXF3D}};
 
 struct Case {
   std::string name;
@@ -94,27 +99,69 @@ INSTANTIATE_TEST_SUITE_P(
     Board, EnablingRow,
     ::testing::Values(
         Case{"Create", [](BoardState& b, HullStore& h) { boardOnCreate(b, h); }, {kCreate}},
-        Case{"fmenuNewThenCommand1_0", [](BoardState& b, HullStore& h) { fmenuNew(b, h); }, {kNew, kPress}},
+        Case{"fmenuNewThenCommand1_0",
+             [](BoardState& b, HullStore& h) { fmenuNew(b, h); },
+             {kNew, kPress}},
         Case{"Command1_0", [](BoardState& b, HullStore&) { command1Press(b, 0); }, {kPress}},
         Case{"Command1_1", [](BoardState& b, HullStore&) { command1Press(b, 1); }, {kPress}},
         Case{"Command1_2", [](BoardState& b, HullStore&) { command1Press(b, 2); }, {kPress}},
-        Case{"AfterModal0", [](BoardState& b, HullStore&) { afterModal(b, C::Command1_0); }, {kAfter0}},
-        Case{"AfterModal1", [](BoardState& b, HullStore&) { afterModal(b, C::Command1_1); }, {kAfter12}},
-        Case{"AfterModal2", [](BoardState& b, HullStore&) { afterModal(b, C::Command1_2); }, {kAfter12}},
-        Case{"EndBouchain1Six", [](BoardState& b, HullStore& h) { endOfBouchain1(b, h); }, {kEnd1Few}, 6},
-        Case{"EndBouchain1Seven", [](BoardState& b, HullStore& h) { endOfBouchain1(b, h); }, {kEnd1Many}, 7},
+        Case{"AfterModal0",
+             [](BoardState& b, HullStore&) { afterModal(b, C::Command1_0); },
+             {kAfter0}},
+        Case{"AfterModal1",
+             [](BoardState& b, HullStore&) { afterModal(b, C::Command1_1); },
+             {kAfter12}},
+        Case{"AfterModal2",
+             [](BoardState& b, HullStore&) { afterModal(b, C::Command1_2); },
+             {kAfter12}},
+        Case{"EndBouchain1Six",
+             [](BoardState& b, HullStore& h) { endOfBouchain1(b, h); },
+             {kEnd1Few},
+             6},
+        Case{"EndBouchain1Seven",
+             [](BoardState& b, HullStore& h) { endOfBouchain1(b, h); },
+             {kEnd1Many},
+             7},
         Case{"EndBouchain2", [](BoardState& b, HullStore&) { endOfBouchain2(b); }, {kEnd2}},
-        Case{"EndBouchain3Six", [](BoardState& b, HullStore& h) { endOfBouchain3(b, h); }, {kEnd3Few}, 6},
-        Case{"EndBouchain3Seven", [](BoardState& b, HullStore& h) { endOfBouchain3(b, h); }, {kEnd3Many}, 7},
-        Case{"Redraw0Six", [](BoardState& b, HullStore& h) { afterRedraw(b, h); }, {kRedraw0Few}, 6, 0},
-        Case{"Redraw0Seven", [](BoardState& b, HullStore& h) { afterRedraw(b, h); }, {kRedraw0Many}, 7, 0},
+        Case{"EndBouchain3Six",
+             [](BoardState& b, HullStore& h) { endOfBouchain3(b, h); },
+             {kEnd3Few},
+             6},
+        Case{"EndBouchain3Seven",
+             [](BoardState& b, HullStore& h) { endOfBouchain3(b, h); },
+             {kEnd3Many},
+             7},
+        Case{"Redraw0Six",
+             [](BoardState& b, HullStore& h) { afterRedraw(b, h); },
+             {kRedraw0Few},
+             6,
+             0},
+        Case{"Redraw0Seven",
+             [](BoardState& b, HullStore& h) { afterRedraw(b, h); },
+             {kRedraw0Many},
+             7,
+             0},
         Case{"Redraw1", [](BoardState& b, HullStore& h) { afterRedraw(b, h); }, {kRedraw1}, 5, 1},
-        Case{"Redraw2Many", [](BoardState& b, HullStore& h) { afterRedraw(b, h); }, {kRedraw1}, 21, 2},
-        Case{"DrawStation", [](BoardState& b, HullStore& h) { drawStationState(b, h); }, {kDrawStation}},
-        Case{"DrawingStarted", [](BoardState& b, HullStore&) { drawingStarted(b); }, {Row{{C::dessine}, {}}}},
-        Case{"DrawingEnded", [](BoardState& b, HullStore&) { drawingEnded(b); }, {Row{{}, {C::dessine}}}},
-        Case{"OpenBeforeRebuild", [](BoardState& b, HullStore&) { openBeforeRebuild(b); }, {kOpenBefore}},
-        Case{"OpenAfterRebuild", [](BoardState& b, HullStore&) { openAfterRebuild(b); }, {kOpenAfter, kPress}}),
+        Case{"Redraw2Many",
+             [](BoardState& b, HullStore& h) { afterRedraw(b, h); },
+             {kRedraw1},
+             21,
+             2},
+        Case{"DrawStation",
+             [](BoardState& b, HullStore& h) { drawStationState(b, h); },
+             {kDrawStation}},
+        Case{"DrawingStarted",
+             [](BoardState& b, HullStore&) { drawingStarted(b); },
+             {Row{{C::dessine}, {}}}},
+        Case{"DrawingEnded",
+             [](BoardState& b, HullStore&) { drawingEnded(b); },
+             {Row{{}, {C::dessine}}}},
+        Case{"OpenBeforeRebuild",
+             [](BoardState& b, HullStore&) { openBeforeRebuild(b); },
+             {kOpenBefore}},
+        Case{"OpenAfterRebuild",
+             [](BoardState& b, HullStore&) { openAfterRebuild(b); },
+             {kOpenAfter, kPress}}),
     [](const auto& info) { return info.param.name; });
 
 TEST(BoardEnabling, LoadDisablesFiveAndLeavesTheRestEnabled) {
@@ -122,8 +169,8 @@ TEST(BoardEnabling, LoadDisablesFiveAndLeavesTheRestEnabled) {
   const BoardState b = loadBoard(h);
   for (std::size_t k = 0; k < kBoardControlCount; ++k) {
     const C c = static_cast<C>(k);
-    const bool off = c == C::DessCouple || c == C::Command1_1 || c == C::Developer || c == C::dessine ||
-                     c == C::Hmenu;
+    const bool off = c == C::DessCouple || c == C::Command1_1 || c == C::Developer ||
+                     c == C::dessine || c == C::Hmenu;
     EXPECT_EQ(b.isEnabled(c), !off) << controlName(c);
   }
   EXPECT_EQ(b.stepIndex, 0);
@@ -218,7 +265,8 @@ TEST(BoardEnabling, WaysBackToTheStartScreen) {
   BoardState b = loadBoard(h);
   const HullStore before = h;
   EXPECT_EQ(press(b, h, C::fmenu_Quit), (Actions{onScreen(Do::Show, ScreenId::menu2)}));
-  EXPECT_EQ(closeBoard(), (Actions{onScreen(Do::Unload, ScreenId::dessin), onScreen(Do::Show, ScreenId::menu2)}));
+  EXPECT_EQ(closeBoard(),
+            (Actions{onScreen(Do::Unload, ScreenId::dessin), onScreen(Do::Show, ScreenId::menu2)}));
   const Actions cancel = press(b, h, C::Cancel);
   ASSERT_EQ(cancel.size(), 6u);
   EXPECT_EQ(cancel.front(), onScreen(Do::SaveHullFile, ScreenId::dessin));

@@ -1,8 +1,8 @@
 // The board's layout in twips: the load on a 1920 x 1080 display at 15
 // twips a pixel, and the limits of the resize rule.
-#include <gtest/gtest.h>
-
 #include "board/board_layout.h"
+
+#include <gtest/gtest.h>
 
 namespace tolmar::board {
 namespace {
@@ -30,8 +30,11 @@ TEST(BoardLayout, ResizeOnlyAboveHeight4000AndWidth10000) {
     double w, h;
     bool moves;
   };
-  const Size sizes[] = {
-      {10000, 9000, false}, {20000, 4000, false}, {10001, 4001, true}, {9000, 3000, false}, {20000, 9000, true}};
+  const Size sizes[] = {{10000, 9000, false},
+                        {20000, 4000, false},
+                        {10001, 4001, true},
+                        {9000, 3000, false},
+                        {20000, 9000, true}};
   for (const auto& s : sizes) {
     BoardLayout l = start;
     EXPECT_EQ(resizeLayout(l, s.w, s.h), s.moves) << s.w << " x " << s.h;

@@ -70,14 +70,30 @@ TEST(BoardMenu, OrderLevelsAndShortcutKeys) {
     const char* key;
   };
   const Want want[] = {
-      {C::fmenu, 0, ""},           {C::fmenu_New, 1, "Ctrl+N"},     {C::fmenu_Open, 1, "Ctrl+O"},
-      {C::separ0, 1, ""},          {C::fmenu_Save, 1, ""},          {C::fmenu_S_Data, 2, "Ctrl+S"},
-      {C::fmenu_S_XYZ, 2, ""},     {C::fmenu_S_DXF2D, 2, ""},       {C::fmenu_S_DXF3D, 2, ""},
-      {C::fmenu_SD_XYZ, 2, ""},    {C::fmenu_SD_DXF, 2, ""},        {C::fmenu_Station_DXF, 2, ""},
-      {C::fmenu_S_VRML, 2, ""},    {C::separ1, 1, ""},              {C::fmenu_Print, 1, ""},
-      {C::fmenu_P_Data, 2, ""},    {C::fmenu_P_Dessin, 2, "Ctrl+D"}, {C::fmenu_P_Develop, 2, ""},
-      {C::fmenu_P_Station, 2, ""}, {C::fmenu_P_Tout, 2, "Ctrl+A"},  {C::fmenu_PSetup, 1, ""},
-      {C::separ2, 1, ""},          {C::fmenu_Quit, 1, "Ctrl+Q"},    {C::Hmenu, 0, ""},
+      {C::fmenu, 0, ""},
+      {C::fmenu_New, 1, "Ctrl+N"},
+      {C::fmenu_Open, 1, "Ctrl+O"},
+      {C::separ0, 1, ""},
+      {C::fmenu_Save, 1, ""},
+      {C::fmenu_S_Data, 2, "Ctrl+S"},
+      {C::fmenu_S_XYZ, 2, ""},
+      {C::fmenu_S_DXF2D, 2, ""},
+      {C::fmenu_S_DXF3D, 2, ""},
+      {C::fmenu_SD_XYZ, 2, ""},
+      {C::fmenu_SD_DXF, 2, ""},
+      {C::fmenu_Station_DXF, 2, ""},
+      {C::fmenu_S_VRML, 2, ""},
+      {C::separ1, 1, ""},
+      {C::fmenu_Print, 1, ""},
+      {C::fmenu_P_Data, 2, ""},
+      {C::fmenu_P_Dessin, 2, "Ctrl+D"},
+      {C::fmenu_P_Develop, 2, ""},
+      {C::fmenu_P_Station, 2, ""},
+      {C::fmenu_P_Tout, 2, "Ctrl+A"},
+      {C::fmenu_PSetup, 1, ""},
+      {C::separ2, 1, ""},
+      {C::fmenu_Quit, 1, "Ctrl+Q"},
+      {C::Hmenu, 0, ""},
   };
   const auto menu = boardMenu();
   ASSERT_EQ(menu.size(), std::size(want));
@@ -85,7 +101,8 @@ TEST(BoardMenu, OrderLevelsAndShortcutKeys) {
     EXPECT_EQ(menu[i].control, want[i].control) << i;
     EXPECT_EQ(menu[i].level, want[i].level) << controlName(want[i].control);
     EXPECT_EQ(menu[i].key, want[i].key) << controlName(want[i].control);
-    EXPECT_EQ(menu[i].separator, caption(want[i].control, 1).empty()) << controlName(want[i].control);
+    EXPECT_EQ(menu[i].separator, caption(want[i].control, 1).empty())
+        << controlName(want[i].control);
   }
   EXPECT_TRUE(menu.back().actsOnClick);
 }
@@ -126,7 +143,7 @@ TEST(BoardHullName, LengthRuleOfText2) {
       {"abcdefghijklmnop", "ABCDEFGHIJKLMNO", "ABCDEFGHIJKLMNO", kNameCut, false},
       {"Doris 2", "DORIS 2", "DORIS 2", kScreenBackground, false},
       {"éte", "ÉTE", "ÉTE", kScreenBackground, false},  // 3 characters in 4 bytes
-      {"àé", "TOLMAR", "OLD", kNameRefused, true},       // 2 characters in 4 bytes
+      {"àé", "TOLMAR", "OLD", kNameRefused, true},      // 2 characters in 4 bytes
       {"ééééééééééééééé", "ÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉ", "ÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉ", kScreenBackground, false},
       {"éééééééééééééééé", "ÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉ", "ÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉ", kNameCut, false},
   };
@@ -168,8 +185,8 @@ TEST(BoardStation, TypedXFallsOnAStationBetween1And81) {
     h.lineX(1, p) = h.lineX(0, p);
   }
   const StationCase cases[] = {
-      {"-5", 1, " 0"},   {"0", 1, " 0"},      {"abc", 1, " 0"},      {"3", 41, " 3"},
-      {"3,0", 41, " 3"}, {"2.99", 41, " 3"},  {"6", 81, " 6"},       {"1e300", 81, " 6"},
+      {"-5", 1, " 0"},    {"0", 1, " 0"},       {"abc", 1, " 0"}, {"3", 41, " 3"},
+      {"3,0", 41, " 3"},  {"2.99", 41, " 3"},   {"6", 81, " 6"},  {"1e300", 81, " 6"},
       {"5.99", 81, " 6"}, {"0.04", 2, " .075"},
   };
   for (const auto& c : cases) {
@@ -222,7 +239,8 @@ TEST(BoardNewHull, StartsOverWithTolmarAndOpensTheBottomScreen) {
   EXPECT_EQ(h.xFwd(0), 6);
   EXPECT_EQ(h.langue, 1);
   EXPECT_EQ(b.stepIndex, 0);
-  EXPECT_EQ(a, (Actions{onScreen(Do::ClearPicture, ScreenId::dessin), onScreen(Do::ShowModal, ScreenId::bouchain1),
+  EXPECT_EQ(a, (Actions{onScreen(Do::ClearPicture, ScreenId::dessin),
+                        onScreen(Do::ShowModal, ScreenId::bouchain1),
                         onControl(Do::AfterModal, C::Command1_0)}));
 }
 

@@ -26,8 +26,8 @@ TEST(DrawingSurface, OperationsMoveTheCurrentPositionAndCarryThePen) {
 
   const auto& c = s.calls();
   ASSERT_EQ(c.size(), 8u);
-  const DrawOp ops[] = {DrawOp::Line, DrawOp::LineTo, DrawOp::LineStep, DrawOp::Line,
-                        DrawOp::LineBox, DrawOp::PSet, DrawOp::PSet, DrawOp::Circle};
+  const DrawOp ops[] = {DrawOp::Line,    DrawOp::LineTo, DrawOp::LineStep, DrawOp::Line,
+                        DrawOp::LineBox, DrawOp::PSet,   DrawOp::PSet,     DrawOp::Circle};
   for (std::size_t i = 0; i < c.size(); ++i) {
     EXPECT_EQ(c[i].op, ops[i]) << i;
     EXPECT_EQ(c[i].style, kStyleDot);

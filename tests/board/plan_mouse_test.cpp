@@ -1,5 +1,7 @@
 // Zoom, move and fit on the board's picture: the arithmetic of the view
 // and the rubber band drawn with the exclusive-or pen.
+#include "board/plan_mouse.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,7 +9,6 @@
 #include <memory>
 #include <tuple>
 
-#include "board/plan_mouse.h"
 #include "board/recording_surface.h"
 #include "board/views.h"
 #include "development/hull_fixture.h"
@@ -57,8 +58,10 @@ TEST(Zoom, TallBoxZoomsByItsHeight) {
 }
 
 TEST(Zoom, DragDirectionDoesNotMatter) {
-  const float corners[][4] = {{2000, 3000, 9000, 8000}, {9000, 8000, 2000, 3000},
-                              {2000, 8000, 9000, 3000}, {9000, 3000, 2000, 8000}};
+  const float corners[][4] = {{2000, 3000, 9000, 8000},
+                              {9000, 8000, 2000, 3000},
+                              {2000, 8000, 9000, 3000},
+                              {9000, 3000, 2000, 8000}};
   HullStore ref = viewOnly(1500, 200, 9000, 5000);
   ASSERT_TRUE(zoomToBox(ref, 2000, 3000, 9000, 8000, kW, kH));
   for (const auto& c : corners) {
@@ -113,7 +116,8 @@ using Figure = std::tuple<DrawOp, float, float, float, float, Colour>;
 std::map<Figure, int> xorFigures(const RecordingSurface& s) {
   std::map<Figure, int> n;
   for (const auto& c : s.calls())
-    if (c.mode == kModeXorPen && (c.x1 != c.x2 || c.y1 != c.y2)) ++n[{c.op, c.x1, c.y1, c.x2, c.y2, c.colour}];
+    if (c.mode == kModeXorPen && (c.x1 != c.x2 || c.y1 != c.y2))
+      ++n[{c.op, c.x1, c.y1, c.x2, c.y2, c.colour}];
   return n;
 }
 

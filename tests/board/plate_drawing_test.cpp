@@ -1,10 +1,11 @@
 // The developed plates that Developer draws over the views.
+#include "board/plate_drawing.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <set>
 
-#include "board/plate_drawing.h"
 #include "board/recording_surface.h"
 #include "board/view_map.h"
 #include "development/hull_fixture.h"
@@ -72,8 +73,11 @@ struct EndCase {
 };
 
 TEST(PlateDrawing, EndPlatesAndTheirTurnInStrokes) {
-  const EndCase cases[] = {{1, 1, 5, 0, 0},         {-1, 1, 5, rgb(2, 4, 6), 11}, {-1, -1, 5, rgb(2, 4, 6), 11},
-                           {1, -1, 5, rgb(3, 6, 9), 12}, {1, -1, 2, 0, 0}};
+  const EndCase cases[] = {{1, 1, 5, 0, 0},
+                           {-1, 1, 5, rgb(2, 4, 6), 11},
+                           {-1, -1, 5, rgb(2, 4, 6), 11},
+                           {1, -1, 5, rgb(3, 6, 9), 12},
+                           {1, -1, 2, 0, 0}};
   for (const EndCase& k : cases) {
     HullStore h = flatPlate();
     h.nChines = static_cast<i16>(k.nChines);
@@ -90,7 +94,10 @@ TEST(PlateDrawing, EndPlatesAndTheirTurnInStrokes) {
       const auto& c = s.calls();
       const int last = k.nChines + 9;
       ASSERT_EQ(c.size(), 1u + last + 1 + (k.stroke ? 1 : 0));
-      auto x = [&](double d) { return bow ? 200 + 1000 * static_cast<float>(5.9 - d) : 200 + 300 + 1000 * static_cast<float>(d); };
+      auto x = [&](double d) {
+        return bow ? 200 + 1000 * static_cast<float>(5.9 - d)
+                   : 200 + 300 + 1000 * static_cast<float>(d);
+      };
       EXPECT_FLOAT_EQ(c[last].x2, x(0.1 * last));
       EXPECT_FLOAT_EQ(c[last + 1].y2, 9000);  // back to the centre line
       EXPECT_EQ(c[1].colour, rgb(1, 2, 3));

@@ -1,5 +1,7 @@
 // The board's views on the default hull, recorded: what is drawn, in which
 // order, colour and style, and which stations fall on which side.
+#include "board/views.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,7 +12,6 @@
 
 #include "board/recording_surface.h"
 #include "board/view_map.h"
-#include "board/views.h"
 #include "development/hull_fixture.h"
 #include "hull/stations.h"
 
@@ -48,7 +49,8 @@ TEST(Grid, LinesAxesAndLetters) {
   drawGrid(s, *h);
   // 13 stations in plan, 13 in profile, 11 joins to the sections, 6 plan
   // waterlines, 7 profile heights drawn twice.
-  EXPECT_EQ(select(s, [](const DrawCall& c) { return c.colour == kGrid; }).size(), 13u + 13 + 11 + 6 + 14);
+  EXPECT_EQ(select(s, [](const DrawCall& c) { return c.colour == kGrid; }).size(),
+            13u + 13 + 11 + 6 + 14);
   const auto axes = select(s, [](const DrawCall& c) { return c.style == kStyleDashDot; });
   ASSERT_EQ(axes.size(), 5u);  // two vertical, X of the profile, Y, centre line
   for (const auto& a : axes) EXPECT_EQ(a.colour, lineColour(*h, 4));
@@ -166,8 +168,8 @@ TEST(Lines, PlanksInTheirOwnColoursClosedOnTheLineBelow) {
   EXPECT_EQ(texts[3], dimensionText(h->lineZ(5, 82)));
   for (int j = 2; j <= 5; ++j) {
     const auto mine = select(s, [&](const DrawCall& c) {
-      return c.op == DrawOp::LineTo && c.colour == lineColour(*h, j) && c.x2 == profilePoint(*h, j, 40).x &&
-             c.y2 == profilePoint(*h, j, 40).y;
+      return c.op == DrawOp::LineTo && c.colour == lineColour(*h, j) &&
+             c.x2 == profilePoint(*h, j, 40).x && c.y2 == profilePoint(*h, j, 40).y;
     });
     EXPECT_EQ(mine.size(), 1u) << j;
   }
@@ -182,7 +184,8 @@ TEST(Lines, NothingAboveTheBottomWithFewerThanTwoLines) {
   RecordingSurface s(kW, kH);
   drawLines(s, *h, 1);
   drawSections(s, *h, 1);
-  EXPECT_EQ(s.calls().size(), select(s, [&](const DrawCall& c) { return c.colour == lineColour(*h, 0); }).size());
+  EXPECT_EQ(s.calls().size(),
+            select(s, [&](const DrawCall& c) { return c.colour == lineColour(*h, 0); }).size());
 }
 
 // A slot whose bottom has no breadth (the pointed stem) looks the same on
@@ -261,7 +264,8 @@ TEST(Sections, TopEdgesAndTurnedInEndPlates) {
     drawSections(s, *h, 1);
     const auto strokes = axisStrokes(*h, s);
     EXPECT_EQ(strokes.count(lineColour(*h, k.nChines)), 2u) << k.nChines;
-    EXPECT_EQ(static_cast<int>(strokes.size()) - 2, k.strokes) << k.nChines << k.transomLine << k.bowLine;
+    EXPECT_EQ(static_cast<int>(strokes.size()) - 2, k.strokes)
+        << k.nChines << k.transomLine << k.bowLine;
     // Section point j above the bottom in the colour of line j - 9.
     const ViewPoint top = sectionPoint(*h, 45, k.nChines + 9, -1);
     const auto toTop = select(s, [&](const DrawCall& c) {
@@ -278,7 +282,8 @@ TEST(Redraw, StepZeroDrawsOnlyTheBottom) {
   dessine(s, *h, 0);
   EXPECT_EQ(s.calls().front().op, DrawOp::Cls);
   for (const auto& c : s.calls()) {
-    const bool allowed = c.colour == kGrid || c.colour == lineColour(*h, 4) || c.colour == lineColour(*h, 0);
+    const bool allowed =
+        c.colour == kGrid || c.colour == lineColour(*h, 4) || c.colour == lineColour(*h, 0);
     EXPECT_TRUE(allowed) << c.colour;
   }
   RecordingSurface full(kW, kH);
@@ -303,7 +308,8 @@ TEST(Redraw, EverythingLandsOnThePicture) {
   RecordingSurface s(kW, kH);
   dessine(s, *h, 1);
   for (const auto& c : s.calls()) {
-    ASSERT_TRUE(std::isfinite(c.x1) && std::isfinite(c.y1) && std::isfinite(c.x2) && std::isfinite(c.y2));
+    ASSERT_TRUE(std::isfinite(c.x1) && std::isfinite(c.y1) && std::isfinite(c.x2) &&
+                std::isfinite(c.y2));
     if (c.colour == kGrid || c.op == DrawOp::Cls) continue;
     EXPECT_GE(c.x2, 0);
     EXPECT_LE(c.x2, kW);

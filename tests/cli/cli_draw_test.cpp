@@ -2,15 +2,14 @@
 // option, and the command line and file errors.  Skipped in a build
 // without the Qt drawing library, where the command does not exist.
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -40,7 +39,8 @@ std::string slurp(const fs::path& p) {
 // Width and height from a PNG's IHDR chunk.
 std::pair<int, int> pngSize(const std::string& png) {
   auto be32 = [&](std::size_t at) {
-    return (static_cast<unsigned char>(png[at]) << 24) | (static_cast<unsigned char>(png[at + 1]) << 16) |
+    return (static_cast<unsigned char>(png[at]) << 24) |
+           (static_cast<unsigned char>(png[at + 1]) << 16) |
            (static_cast<unsigned char>(png[at + 2]) << 8) | static_cast<unsigned char>(png[at + 3]);
   };
   if (png.size() < 24 || png.compare(1, 3, "PNG") != 0) return {0, 0};
@@ -54,7 +54,9 @@ TEST(CliDraw, DefaultHullAsPngAndSvg) {
   ASSERT_EQ(cli("new '" + hull.string() + "'"), 0);
   ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "a.png").string() + "'"), 0);
   EXPECT_EQ(pngSize(slurp(d / "a.png")), std::make_pair(1600, 1000));
-  ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "b.PNG").string() + "' --size 640x400 --station 2,5"), 0);
+  ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "b.PNG").string() +
+                "' --size 640x400 --station 2,5"),
+            0);
   EXPECT_EQ(pngSize(slurp(d / "b.PNG")), std::make_pair(640, 400));
   ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "c.svg").string() + "' --size 800x500"), 0);
   const std::string svg = slurp(d / "c.svg");
@@ -64,8 +66,10 @@ TEST(CliDraw, DefaultHullAsPngAndSvg) {
   // water line left by the hydrostatics.
   const std::string plain = slurp(d / "a.png");
   ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "dev.png").string() + "' --develop"), 0);
-  ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "wl.png").string() + "' --hydro-disp 0.5"), 0);
-  ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "zwl.png").string() + "' --hydro-zwl 0.1"), 0);
+  ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "wl.png").string() + "' --hydro-disp 0.5"),
+            0);
+  ASSERT_EQ(cli("draw '" + hull.string() + "' '" + (d / "zwl.png").string() + "' --hydro-zwl 0.1"),
+            0);
   for (const char* name : {"dev.png", "wl.png", "zwl.png"}) {
     EXPECT_EQ(pngSize(slurp(d / name)), std::make_pair(1600, 1000)) << name;
     EXPECT_NE(slurp(d / name), plain) << name;
@@ -85,7 +89,8 @@ TEST(CliDraw, BadCommandLinesAndFiles) {
   EXPECT_EQ(cli("draw " + h + "'" + (d / "x.png").string() + "' --size 0x10"), 2);
   EXPECT_EQ(cli("draw " + h + "'" + (d / "x.png").string() + "' --station"), 2);
   EXPECT_EQ(cli("draw " + h + "'" + (d / "x.png").string() + "' --frob"), 2);
-  EXPECT_EQ(cli("draw " + h + "'" + (d / "x.png").string() + "' --hydro-zwl 0.1 --hydro-disp 1"), 2);
+  EXPECT_EQ(cli("draw " + h + "'" + (d / "x.png").string() + "' --hydro-zwl 0.1 --hydro-disp 1"),
+            2);
   EXPECT_EQ(cli("draw " + h + "'" + (d / "x.png").string() + "' --set nonsense"), 2);
   EXPECT_EQ(cli("draw '" + (d / "none.D50").string() + "' '" + (d / "x.png").string() + "'"), 1);
   EXPECT_EQ(cli("draw " + h + "'" + (d / "no" / "dir" / "x.png").string() + "'"), 1);

@@ -2,8 +2,6 @@
 // against a golden file, a waterline typed with a decimal comma, and the
 // command line's errors.
 #include <gtest/gtest.h>
-
-#include "cli/cli_run.h"
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -16,6 +14,8 @@
 #include <sstream>
 #include <string>
 
+#include "cli/cli_run.h"
+
 namespace {
 
 using tolmar::testing::CliRun;
@@ -24,8 +24,6 @@ using tolmar::testing::slurp;
 
 namespace fs = std::filesystem;
 using nlohmann::json;
-
-
 
 const std::string kDefaultHull = (fs::path(TOLMAR_GOLDEN) / "default_hull.D50").string();
 
@@ -70,7 +68,8 @@ TEST(CliHydro, WaterlineWithADecimalComma) {
 }
 
 TEST(CliHydro, TwentyAutomaticPlanksFloatAtTheAskedDisplacement) {
-  const fs::path file = fs::temp_directory_path() / ("tolmar_hydro_20_" + std::to_string(getpid()) + ".D50");
+  const fs::path file =
+      fs::temp_directory_path() / ("tolmar_hydro_20_" + std::to_string(getpid()) + ".D50");
   ASSERT_EQ(runCli("new '" + file.string() + "' --set bouchain3.Text0=20").status, 0);
   const CliRun r = hydro("'" + file.string() + "' --disp 0.4 --auto");
   fs::remove(file);

@@ -1,8 +1,8 @@
 // tolmar-cli open end to end: the JSON of a hull file in the current and
 // an old layout, doubles to 17 digits, and the error path.
 #include <gtest/gtest.h>
-
-#include "cli/cli_run.h"
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <array>
 #include <cstdio>
@@ -13,8 +13,7 @@
 #include <sstream>
 #include <string>
 
-#include <sys/wait.h>
-#include <unistd.h>
+#include "cli/cli_run.h"
 
 namespace {
 
@@ -24,8 +23,6 @@ using tolmar::testing::slurp;
 
 namespace fs = std::filesystem;
 using nlohmann::json;
-
-
 
 CliRun openFile(const fs::path& file) { return runCli("open '" + file.string() + "'"); }
 
@@ -40,11 +37,13 @@ TEST(CliOpen, DefaultHullFileGivesTheStoreUnderItsOwnNames) {
   EXPECT_EQ(r.out, slurp(golden));
 
   const json j = json::parse(r.out);
-  const char* keys[] = {"hullName", "nChines", "iMaxBeam", "powerFwd", "powerAft", "shapeAft",
-                        "shapeFwd", "stemShape", "keelAdvance", "bowAngle", "transomAngle",
-                        "plankAngle", "bowTurn", "transomTurn", "xAft", "yAft", "zAft", "xMax",
-                        "yMax", "zMax", "xFwd", "yFwd", "zFwd", "planeA", "planeB", "planeC",
-                        "lineX", "lineY", "lineZ", "edgeX", "edgeY", "edgeZ"};
+  const char* keys[] = {"hullName",     "nChines",    "iMaxBeam",  "powerFwd",    "powerAft",
+                        "shapeAft",     "shapeFwd",   "stemShape", "keelAdvance", "bowAngle",
+                        "transomAngle", "plankAngle", "bowTurn",   "transomTurn", "xAft",
+                        "yAft",         "zAft",       "xMax",      "yMax",        "zMax",
+                        "xFwd",         "yFwd",       "zFwd",      "planeA",      "planeB",
+                        "planeC",       "lineX",      "lineY",     "lineZ",       "edgeX",
+                        "edgeY",        "edgeZ"};
   EXPECT_EQ(j.size(), std::size(keys));
   for (const char* k : keys) EXPECT_TRUE(j.contains(k)) << k;
   EXPECT_EQ(j["hullName"], "default_hull");
@@ -67,8 +66,9 @@ TEST(CliOpen, DefaultHullFileGivesTheStoreUnderItsOwnNames) {
 TEST(CliOpen, OldLayoutAndSeventeenDigits) {
   const CliRun r = openFile(kData / "old_no_version.D50");
   ASSERT_EQ(r.status, 0) << r.err;
-  EXPECT_NE(r.out.find("\"yFwd\": [0, 0.10000000000000001, 0.20000000000000001, 0.29999999999999999]"),
-            std::string::npos);
+  EXPECT_NE(
+      r.out.find("\"yFwd\": [0, 0.10000000000000001, 0.20000000000000001, 0.29999999999999999]"),
+      std::string::npos);
   const json j = json::parse(r.out);
   EXPECT_EQ(j["nChines"], 3);
   EXPECT_EQ(j["bowTurn"][3], -1);
@@ -84,7 +84,8 @@ TEST(CliOpen, UnreadableFileFailsWithTheSystemsText) {
 
   std::string text = "&C26\r\n";
   for (int i = 0; i < 26 * 14 + 10; ++i) text += " 1\r\n";
-  const fs::path big = fs::temp_directory_path() / ("tolmar_open_26_" + std::to_string(getpid()) + ".D50");
+  const fs::path big =
+      fs::temp_directory_path() / ("tolmar_open_26_" + std::to_string(getpid()) + ".D50");
   std::ofstream(big, std::ios::binary) << text;
   r = openFile(big);
   fs::remove(big);

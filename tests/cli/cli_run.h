@@ -2,6 +2,9 @@
 // status, standard output and standard error.
 #pragma once
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <array>
 #include <atomic>
 #include <cstdio>
@@ -9,9 +12,6 @@
 #include <fstream>
 #include <sstream>
 #include <string>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace tolmar::testing {
 
@@ -33,8 +33,8 @@ inline std::string slurp(const std::filesystem::path& p) {
 inline CliRun runCli(const std::string& args, const std::filesystem::path& cwd = {}) {
   static std::atomic<int> calls{0};
   namespace fs = std::filesystem;
-  const fs::path err = fs::temp_directory_path() /
-                       ("tolmar_cli_err_" + std::to_string(getpid()) + "_" + std::to_string(calls++));
+  const fs::path err = fs::temp_directory_path() / ("tolmar_cli_err_" + std::to_string(getpid()) +
+                                                    "_" + std::to_string(calls++));
   std::string cmd = "'" + std::string(TOLMAR_CLI) + "' " + args + " 2>'" + err.string() + "'";
   if (!cwd.empty()) cmd = "cd '" + cwd.string() + "' && " + cmd;
   CliRun r;

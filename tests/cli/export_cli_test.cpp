@@ -1,8 +1,8 @@
 // tolmar-cli export and export-all end to end: the files are byte for byte
 // those the export tests expect of the default hull, and the error path.
 #include <gtest/gtest.h>
-
-#include "cli/cli_run.h"
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -12,8 +12,7 @@
 #include <sstream>
 #include <string>
 
-#include <sys/wait.h>
-#include <unistd.h>
+#include "cli/cli_run.h"
 
 namespace {
 
@@ -22,8 +21,6 @@ using tolmar::testing::runCli;
 using tolmar::testing::slurp;
 
 namespace fs = std::filesystem;
-
-
 
 class CliExport : public ::testing::Test {
  protected:
@@ -87,9 +84,10 @@ TEST_F(CliExport, StationAtAnX) {
 
 TEST_F(CliExport, LapStrakeAddsTheOutlineWithMaterial) {
   const CliRun plain = cli("export " + hull() + " plates-dxf " + at("a.DXF"));
-  const CliRun lap = cli("export " + hull() + " plates-dxf " + at("b.DXF") + " --overlap lap --set 'overlap1.Text1(0)=9' --set 'overlap1.Text1(1)=25'"
-                                   " --set 'overlap1.Text2(0)=6' --set 'overlap1.Text2(1)=18'"
-                                   " --set 'overlap1.Text3(1)=12' --set 'overlap1.Text3(2)=15'");
+  const CliRun lap = cli("export " + hull() + " plates-dxf " + at("b.DXF") +
+                         " --overlap lap --set 'overlap1.Text1(0)=9' --set 'overlap1.Text1(1)=25'"
+                         " --set 'overlap1.Text2(0)=6' --set 'overlap1.Text2(1)=18'"
+                         " --set 'overlap1.Text3(1)=12' --set 'overlap1.Text3(2)=15'");
   ASSERT_EQ(plain.status, 0) << plain.err;
   ASSERT_EQ(lap.status, 0) << lap.err;
   const std::string a = slurp(dir_ / "a.DXF"), b = slurp(dir_ / "b.DXF");
@@ -111,7 +109,9 @@ TEST_F(CliExport, WrongCommandLines) {
   EXPECT_EQ(cli("export " + hull() + " lines-xyz " + at("x") + " --lang de").status, 2);
   EXPECT_EQ(cli("export " + hull() + " plank-xyz:5 " + at("x")).status, 2);  // planks 0..4
   EXPECT_EQ(cli("export " + hull() + " plates-dxf " + at("x") + " --overlap 1,2").status, 2);
-  EXPECT_EQ(cli("export " + hull() + " plates-dxf " + at("x") + " --set 'overlap1.Text4(0)=1'").status, 2);
+  EXPECT_EQ(
+      cli("export " + hull() + " plates-dxf " + at("x") + " --set 'overlap1.Text4(0)=1'").status,
+      2);
   EXPECT_EQ(cli("export " + hull() + " plates-dxf " + at("x") + " --overlap cancel").status, 0);
   EXPECT_EQ(cli("export " + at("none.D50") + " lines2d " + at("x")).status, 1);
   EXPECT_FALSE(fs::exists(dir_ / "x"));

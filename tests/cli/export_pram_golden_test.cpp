@@ -27,7 +27,8 @@ std::set<std::string> filesUnder(const fs::path& root) {
 }
 
 TEST(ExportPramBow, EveryFileOfAFourLinePramHull) {
-  const fs::path dir = fs::temp_directory_path() / ("tolmar_export_pram_" + std::to_string(getpid()));
+  const fs::path dir =
+      fs::temp_directory_path() / ("tolmar_export_pram_" + std::to_string(getpid()));
   fs::remove_all(dir);
   fs::create_directories(dir);
   const fs::path hull = dir / "PRAM.D50";
@@ -35,10 +36,11 @@ TEST(ExportPramBow, EveryFileOfAFourLinePramHull) {
                              "' --set 'bouchain1.Text1(3)=0.35' --set 'bouchain1.Text2(5)=20'"
                              " --set 'bouchain2.OptShear(2)'");
   ASSERT_EQ(made.status, 0) << made.err;
-  const CliRun all = runCli("export-all '" + hull.string() + "' '" + (dir / "out").string() +
-                            "' --overlap lap --set 'overlap1.Text1(0)=9' --set 'overlap1.Text1(1)=20'"
-                            " --set 'overlap1.Text2(0)=6' --set 'overlap1.Text2(1)=15'"
-                            " --set 'overlap1.Text3(1)=12' --set 'overlap1.Text3(2)=12'");
+  const CliRun all =
+      runCli("export-all '" + hull.string() + "' '" + (dir / "out").string() +
+             "' --overlap lap --set 'overlap1.Text1(0)=9' --set 'overlap1.Text1(1)=20'"
+             " --set 'overlap1.Text2(0)=6' --set 'overlap1.Text2(1)=15'"
+             " --set 'overlap1.Text3(1)=12' --set 'overlap1.Text3(2)=12'");
   ASSERT_EQ(all.status, 0) << all.err;
 
   const fs::path golden = fs::path(TOLMAR_GOLDEN) / "export" / "pram";

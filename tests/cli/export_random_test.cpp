@@ -36,10 +36,12 @@ void expectFiniteNumbers(const fs::path& file) {
     std::string lower;
     for (char c : word) lower += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     if (!lower.empty() && (lower[0] == '-' || lower[0] == '+')) lower.erase(0, 1);
-    ASSERT_FALSE(lower == "nan" || lower == "inf" || lower == "infinity" || lower.rfind("nan(", 0) == 0)
+    ASSERT_FALSE(lower == "nan" || lower == "inf" || lower == "infinity" ||
+                 lower.rfind("nan(", 0) == 0)
         << file << ": " << word;
     const char c = word[0];
-    if (!(std::isdigit(static_cast<unsigned char>(c)) || c == '-' || c == '.' || c == '+')) continue;
+    if (!(std::isdigit(static_cast<unsigned char>(c)) || c == '-' || c == '.' || c == '+'))
+      continue;
     char* end = nullptr;
     const double v = std::strtod(word.c_str(), &end);
     if (end == word.c_str()) continue;
@@ -50,7 +52,8 @@ void expectFiniteNumbers(const fs::path& file) {
 }
 
 TEST(ExportRandomHulls, EveryNumberInEveryFileIsFinite) {
-  const fs::path dir = fs::temp_directory_path() / ("tolmar_export_random_" + std::to_string(getpid()));
+  const fs::path dir =
+      fs::temp_directory_path() / ("tolmar_export_random_" + std::to_string(getpid()));
   fs::remove_all(dir);
   fs::create_directories(dir);
   std::mt19937 rng(20261123);

@@ -2,8 +2,8 @@
 // hull and on a hull of 20 automatic planks, the fields that validation
 // replaces, the hulls that cannot be validated and the wrong --set forms.
 #include <gtest/gtest.h>
-
-#include "cli/cli_run.h"
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <array>
 #include <cmath>
@@ -15,8 +15,7 @@
 #include <sstream>
 #include <string>
 
-#include <sys/wait.h>
-#include <unistd.h>
+#include "cli/cli_run.h"
 
 namespace {
 
@@ -26,8 +25,6 @@ using tolmar::testing::slurp;
 
 namespace fs = std::filesystem;
 using nlohmann::json;
-
-
 
 class Pipeline : public ::testing::Test {
  protected:
@@ -85,7 +82,8 @@ void expectGolden(const std::string& text, const std::string& name) {
     std::ofstream(golden, std::ios::binary) << text;
     return;
   }
-  EXPECT_EQ(text, slurp(golden)) << "golden " << golden << " differs (TOLMAR_REGENERATE=1 rewrites it)";
+  EXPECT_EQ(text, slurp(golden)) << "golden " << golden
+                                 << " differs (TOLMAR_REGENERATE=1 rewrites it)";
 }
 
 TEST_F(Pipeline, DefaultHullThroughBottomAndPlanks) {
@@ -114,7 +112,8 @@ TEST_F(Pipeline, TwentyAutomaticPlanks) {
   const CliRun made = cli("new auto20.D50 --set bouchain3.Text0=20");
   ASSERT_EQ(made.status, 0) << made.err;
   // 45 to 90 degrees over 19 steps rounds to 2, below the least step of 3.
-  EXPECT_NE(made.err.find("bouchain3 Text2(0): typed \"90\", kept \"102\""), std::string::npos) << made.err;
+  EXPECT_NE(made.err.find("bouchain3 Text2(0): typed \"90\", kept \"102\""), std::string::npos)
+      << made.err;
   EXPECT_NE(slurp(dir_ / "auto20.D50").find("C21\r\n"), std::string::npos);
 
   const json d = dump("auto20.D50");  // more than six lines: automatic planking without --auto
@@ -184,7 +183,8 @@ TEST_F(Pipeline, WrongCommandLinesAndFiles) {
       {"dump h.D50 --set 'bouchain2.Text1(4)=2'", 2, "disabled"},   // row beyond the sheer line
       {"dump h.D50 --set 'bouchain1.Text2(5)=20'", 2, "disabled"},  // pointed stem: no bow angle
       {"dump h.D50 --auto --set 'bouchain2.Text1(0)=1'", 2, "bouchain2 is not shown"},
-      {"dump h.D50 --set bouchain3.Text0=3 --set 'bouchain2.Text1(0)=1'", 2, "bouchain2 is not shown"},
+      {"dump h.D50 --set bouchain3.Text0=3 --set 'bouchain2.Text1(0)=1'", 2,
+       "bouchain2 is not shown"},
       {"dump h.D50 --frobnicate", 2, "unknown option"},
       {"dump", 2, "a hull file is needed"},
       {"new a.D50 --auto", 2, "unknown option"},

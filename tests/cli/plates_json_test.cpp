@@ -1,6 +1,8 @@
 // The JSON of the developed plates: one entry per plate and deck, each edge
 // over exactly the points the plate uses, the same numbers as the
 // development itself, and no null (a NaN or infinity) anywhere.
+#include "plates_json.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -8,7 +10,6 @@
 #include "../development/hull_fixture.h"
 #include "development/calc_develop.h"
 #include "development/end_plates.h"
-#include "plates_json.h"
 
 namespace tolmar {
 namespace {

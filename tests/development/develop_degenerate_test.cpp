@@ -24,7 +24,9 @@ struct Strip {
     y(side, i) = py;
     z(side, i) = pz;
   }
-  void copy(int side, int to, int from) { set(side, to, x(side, from), y(side, from), z(side, from)); }
+  void copy(int side, int to, int from) {
+    set(side, to, x(side, from), y(side, from), z(side, from));
+  }
 };
 
 // Plane coordinates (u, v) into a plane tilted about two axes.
@@ -97,8 +99,8 @@ TEST(DevelopPlaneStrip, ComesOutCongruentForEveryLevellingRule) {
 
 TEST(DevelopPlaneStrip, RepeatedPointsGiveIdenticalFlatPointsAndKeepDistances) {
   auto s = planeStrip();
-  s->copy(0, 0, 1);    // keel-like: points 0 and 1 coincide
-  s->copy(0, 82, 81);  // and 81, 82
+  s->copy(0, 0, 1);                                  // keel-like: points 0 and 1 coincide
+  s->copy(0, 82, 81);                                // and 81, 82
   for (int i = 71; i <= 82; ++i) s->copy(1, i, 70);  // upper edge ends short
   for (int i = 3; i <= 6; ++i) s->copy(1, i, 2);     // repeats aft of the rung
   HullStore h;

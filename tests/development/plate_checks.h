@@ -14,9 +14,9 @@ namespace tolmar::checks {
 inline constexpr int kStartRung = 10;
 
 struct PlateFit {
-  double edge = 0;      // largest |flat - 3-D| of an edge step, m
-  double rung = 0;      // of a rung
-  double diagonal = 0;  // of a diagonal the strip lays
+  double edge = 0;                                      // largest |flat - 3-D| of an edge step, m
+  double rung = 0;                                      // of a rung
+  double diagonal = 0;                                  // of a diagonal the strip lays
   double minArea = std::numeric_limits<double>::max();  // signed, twice the area, m2
   bool finite = true;
 };
@@ -24,8 +24,7 @@ struct PlateFit {
 struct Tables {
   TableRef x, y, z;
   double dist(int l1, int i1, int l2, int i2) const {
-    const double dx = x(l1, i1) - x(l2, i2), dy = y(l1, i1) - y(l2, i2),
-                 dz = z(l1, i1) - z(l2, i2);
+    const double dx = x(l1, i1) - x(l2, i2), dy = y(l1, i1) - y(l2, i2), dz = z(l1, i1) - z(l2, i2);
     return std::sqrt(dx * dx + dy * dy + dz * dz);
   }
 };

@@ -1,10 +1,11 @@
 #include "export/dxf_records.h"
-#include "export/polyline_out.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
+
+#include "export/polyline_out.h"
 
 namespace tolmar {
 namespace {
@@ -42,9 +43,10 @@ TEST(DxfNumber, HugeValueStaysOnOneFiniteLine) {
 TEST(DxfRecords, PolylineLayerAndColourAsDigits) {
   StringSink out;
   dxfPolyline(out, 4, 7);
-  EXPECT_EQ(out.text(),
-            "  0\r\nPOLYLINE\r\n  8\r\n4\r\n 62\r\n     7\r\n 66\r\n      1\r\n  6\r\nCONTINUOUS\r\n"
-            " 70\r\n      8\r\n");
+  EXPECT_EQ(
+      out.text(),
+      "  0\r\nPOLYLINE\r\n  8\r\n4\r\n 62\r\n     7\r\n 66\r\n      1\r\n  6\r\nCONTINUOUS\r\n"
+      " 70\r\n      8\r\n");
 }
 
 TEST(DxfRecords, TwoDigitLayerAndColour) {
@@ -75,10 +77,11 @@ TEST(DxfRecords, FileFrame) {
   dxfSeqend(out);
   dxfEndSec(out);
   dxfEof(out);
-  EXPECT_EQ(out.text(),
-            "999\r\n2D lines of Tolmar\r\n  0\r\nSECTION\r\n  2\r\nENTITIES\r\n"
-            "  0\r\nPOLYLINE\r\n  8\r\n1\r\n 62\r\n     7\r\n 66\r\n      1\r\n  6\r\nCONTINUOUS\r\n"
-            " 70\r\n      8\r\n 0 \r\nSEQEND\r\n  0\r\nENDSEC\r\n  0\r\nEOF\r\n");
+  EXPECT_EQ(
+      out.text(),
+      "999\r\n2D lines of Tolmar\r\n  0\r\nSECTION\r\n  2\r\nENTITIES\r\n"
+      "  0\r\nPOLYLINE\r\n  8\r\n1\r\n 62\r\n     7\r\n 66\r\n      1\r\n  6\r\nCONTINUOUS\r\n"
+      " 70\r\n      8\r\n 0 \r\nSEQEND\r\n  0\r\nENDSEC\r\n  0\r\nEOF\r\n");
 }
 
 TEST(DxfRecords, OneVertexPolylineIsWrittenAsSuch) {
@@ -110,7 +113,9 @@ TEST(CodePage1252, CommentIsRecodedCharacterByCharacter) {
   EXPECT_EQ(toCodePage1252("Étrave à 5 €"), "\xC9trave \xE0 5 \x80");
   EXPECT_EQ(toCodePage1252("œuvre"), "\x9Cuvre");
   EXPECT_EQ(toCodePage1252("boat ⛵ 1"), "boat ? 1");  // outside the code page
-  EXPECT_EQ(toCodePage1252("a\xFF" "b"), "a?b");         // a byte that is no UTF-8
+  EXPECT_EQ(toCodePage1252("a\xFF"
+                           "b"),
+            "a?b");  // a byte that is no UTF-8
   EXPECT_EQ(toCodePage1252(""), "");
 }
 

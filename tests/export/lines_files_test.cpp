@@ -117,7 +117,7 @@ TEST(LinesFiles, OneChineHull) {
   HullStore h = test::defaultHull();
   h.nChines = 1;
   const auto p2 = readPolylines(lines2D(h));
-  EXPECT_EQ(p2[2].v.size(), 4U);   // row 2: lines 1, 0 on one side, 0, 1 on the other
+  EXPECT_EQ(p2[2].v.size(), 4U);                // row 2: lines 1, 0 on one side, 0, 1 on the other
   EXPECT_EQ(p2[2 + 2 + 10 + 1].v.size(), 85U);  // one profile polyline, k = 1
   const auto p3 = readPolylines(lines3D(h));
   EXPECT_EQ(p3[3].v.size(), 2U * 10 + 1);  // m = 10

@@ -1,5 +1,7 @@
 // The plate, deck and station DXF files: golden files of the default hull
 // in both forms, and the rules of the outline with material.
+#include "export/plate_dxf.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -10,7 +12,6 @@
 #include "dxf_text_reader.h"
 #include "export/end_plates_dxf.h"
 #include "export/plate_cut.h"
-#include "export/plate_dxf.h"
 #include "export/preset_host.h"
 #include "export_fixtures.h"
 #include "golden_file.h"

@@ -31,7 +31,9 @@ class PlateXyz : public testing::Test {
     std::sort(n.begin(), n.end());
     return n;
   }
-  std::string file(const std::string& name) const { return test::readBytes((dir_ / name).string()); }
+  std::string file(const std::string& name) const {
+    return test::readBytes((dir_ / name).string());
+  }
 
   fs::path dir_;
 };
@@ -49,7 +51,7 @@ TEST_F(PlateXyz, FullRunOnTheDefaultHull) {
   test::expectGolden("Tolmar_P2.XYZ", file("Tolmar_P2.XYZ"));
   test::expectGolden("Tolmar_D5.XYZ", file("Tolmar_D5.XYZ"));
   test::expectGolden("Tolmar_TR.XYZ", file("Tolmar_TR.XYZ"));
-  EXPECT_EQ(h.hullName, "Tolmar");  // plate files leave the name alone
+  EXPECT_EQ(h.hullName, "Tolmar");    // plate files leave the name alone
   EXPECT_EQ(host.cancelFocused, 10);  // planks and decks, not the transom
   EXPECT_EQ(*host.requests[0].title, "Tolmar2008 - Save developed plank as XYZ file");
   EXPECT_EQ(host.requests[0].filter, "Plank (*_P*.XYZ)|*.XYZ");

@@ -41,7 +41,7 @@ TEST(StrokeFont, FixedAdvanceWhateverTheGlyphWidth) {
   // one text height further all the same.
   const auto lines = readPolylines(text("mi1", 2.0F, 1.0, 0.5));
   ASSERT_EQ(lines.size(), 3U);
-  EXPECT_NEAR(lines[0].v[0].x, 1.0, 1e-6);      // m starts at (0, 0)
+  EXPECT_NEAR(lines[0].v[0].x, 1.0, 1e-6);              // m starts at (0, 0)
   EXPECT_NEAR(lines[1].v[0].x, 1.0 + 2.0 + 0.5, 1e-6);  // i starts at (4, 8)
   EXPECT_NEAR(lines[1].v[0].y, 0.5 + 1.0, 1e-6);
   EXPECT_NEAR(lines[2].v[0].x, 1.0 + 4.0 + 0.125, 1e-6);  // 1 starts at (1, 12)

@@ -1,18 +1,17 @@
 // Every DXF and VRML file this program writes, read back by independent
 // readers: dxflib (DXF) and Coin3D's VRML97 reader.  They must see the same
 // polylines, vertices and layers as the file's own records say.
-#include <dxflib/dl_creationadapter.h>
-#include <dxflib/dl_dxf.h>
-#include <gtest/gtest.h>
-
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
-#include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/VRMLnodes/SoVRMLCoordinate.h>
 #include <Inventor/VRMLnodes/SoVRMLDirectionalLight.h>
 #include <Inventor/VRMLnodes/SoVRMLIndexedFaceSet.h>
 #include <Inventor/VRMLnodes/SoVRMLViewpoint.h>
+#include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/nodes/SoSeparator.h>
+#include <dxflib/dl_creationadapter.h>
+#include <dxflib/dl_dxf.h>
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>

@@ -86,7 +86,8 @@ class QtDrawTest : public QObject {
     QCOMPARE(mouse.buttonUp(kLeftButton, 3290, 5000), PlanResult::Nothing);  // 290 wide
     QCOMPARE(differingPixels(before, s.picture()), 0);
     mouse.buttonDown(kRightButton, 3000, 2000);
-    for (int i = 1; i <= 10; ++i) mouse.mouseMove(kRightButton, 3000 + 100.0f * i, 2000 - 50.0f * i);
+    for (int i = 1; i <= 10; ++i)
+      mouse.mouseMove(kRightButton, 3000 + 100.0f * i, 2000 - 50.0f * i);
     QVERIFY(differingPixels(before, s.picture()) > 10);
   }
 
@@ -114,11 +115,12 @@ class QtDrawTest : public QObject {
     const QImage img = s.picture();
     QString rows[3];
     for (int i = 0; i < 3; ++i)
-      for (int x = 0; x < 60; ++x) rows[i] += img.pixel(x, 10 + 20 * i) == qRgb(0, 0, 0) ? '#' : '.';
+      for (int x = 0; x < 60; ++x)
+        rows[i] += img.pixel(x, 10 + 20 * i) == qRgb(0, 0, 0) ? '#' : '.';
     QVERIFY(!rows[0].contains('.'));
     QVERIFY(rows[1].contains('.') && rows[2].contains('.'));
     QVERIFY(rows[1] != rows[2]);
-    QVERIFY(!rows[1].contains("##"));  // dots, one at a time
+    QVERIFY(!rows[1].contains("##"));   // dots, one at a time
     QVERIFY(rows[2].contains("####"));  // the dash of dash-dot
   }
 

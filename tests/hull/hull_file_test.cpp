@@ -1,6 +1,7 @@
 #include "hull/hull_file.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cmath>
 #include <cstdlib>
@@ -10,8 +11,6 @@
 #include <string>
 
 #include "hull/default_hull.h"
-
-#include <unistd.h>
 
 namespace tolmar {
 namespace {
@@ -38,7 +37,8 @@ FileResult readText(const std::string& text, HullStore& h, bool noShapeFwd = fal
 
 // A folder of its own for each process: other builds may run these tests at once.
 fs::path tempDir(const char* name) {
-  const fs::path dir = fs::temp_directory_path() / (std::string(name) + "_" + std::to_string(getpid()));
+  const fs::path dir =
+      fs::temp_directory_path() / (std::string(name) + "_" + std::to_string(getpid()));
   fs::remove_all(dir);
   fs::create_directories(dir);
   return dir;
@@ -125,8 +125,10 @@ TEST(HullFileWriter, TagLetters) {
 TEST(HullFileRoundTrip, FileToStoreToFileIsByteForByte) {
   for (const bool other : {false, true}) {
     auto a = newStore();
-    if (other) otherHull(*a);
-    else initDefaultHull(*a);
+    if (other)
+      otherHull(*a);
+    else
+      initDefaultHull(*a);
     const std::string first = written(*a);
     auto b = newStore();
     b->hullName = a->hullName;
@@ -275,7 +277,8 @@ TEST(HullFileTag, CountAndFlagsFromTheTag) {
   EXPECT_EQ(h->planeC(2), 13);
 
   auto e = newStore();  // a tag that ends right after "C": count 0, one block
-  ASSERT_TRUE(readText(std::string(kHead) + "&C\r\n" + values + block(0) + " 2\r\nEOF \r\n", *e).ok);
+  ASSERT_TRUE(
+      readText(std::string(kHead) + "&C\r\n" + values + block(0) + " 2\r\nEOF \r\n", *e).ok);
   EXPECT_EQ(e->nChines, 0);
   EXPECT_EQ(e->stemShape, 2);
 
@@ -297,9 +300,9 @@ TEST(HullFileTag, UnknownVersionWordPutsTheTagWherePowerFwdIsDue) {
 
 TEST(HullFileValues, CommasTextAndWordsInsideLines) {
   auto h = newStore();
-  const std::string text = std::string(kHead) + "&NNC02\r\n 1,5\r\nabc\r\n 3x\r\n 4\r\n 5\r\n 6\r\n 7\r\n" +
-                           "--LINE--\r\n 12\r\n" + block(0).substr(14) + block(1) + block(2) +
-                           " 1.25 EOF\r\n";
+  const std::string text =
+      std::string(kHead) + "&NNC02\r\n 1,5\r\nabc\r\n 3x\r\n 4\r\n 5\r\n 6\r\n 7\r\n" +
+      "--LINE--\r\n 12\r\n" + block(0).substr(14) + block(1) + block(2) + " 1.25 EOF\r\n";
   ASSERT_TRUE(readText(text, *h).ok);
   EXPECT_EQ(h->powerFwd, 1.5);
   EXPECT_EQ(h->powerAft, 0);
@@ -322,7 +325,8 @@ TEST(HullFileValues, TruncatedFilesReadZeros) {
   auto a = newStore();
   initDefaultHull(*a);
   const std::string full = written(*a);
-  for (std::size_t cut : {std::size_t{0}, std::size_t{10}, std::size_t{40}, full.size() / 2, full.size() - 8}) {
+  for (std::size_t cut :
+       {std::size_t{0}, std::size_t{10}, std::size_t{40}, full.size() / 2, full.size() - 8}) {
     auto h = newStore();
     h->stemShape = 5;
     h->powerFwd = 5;

@@ -1,9 +1,10 @@
 // The start screen: program start, language switch, Create and Terminate.
+#include "screens/menu2.h"
+
 #include <gtest/gtest.h>
 
 #include "board/board_model.h"
 #include "hull/default_hull.h"
-#include "screens/menu2.h"
 
 namespace tolmar::screens {
 namespace {
@@ -26,7 +27,8 @@ TEST(Menu2, StartComesUpInEnglishWithTheDefaultHull) {
   EXPECT_EQ(m.Label2.caption, "");
   EXPECT_EQ(m.label3FontSize, 7.8);
   EXPECT_EQ(a, (Actions{onScreen(Do::Show, ScreenId::menu2), onScreen(Do::Load, ScreenId::dessin),
-                        onScreen(Do::Load, ScreenId::bouchain1), onScreen(Do::Load, ScreenId::bouchain2)}));
+                        onScreen(Do::Load, ScreenId::bouchain1),
+                        onScreen(Do::Load, ScreenId::bouchain2)}));
 }
 
 TEST(Menu2, LayoutFromTheTopOfACentredWindow) {
@@ -54,10 +56,12 @@ struct LangCase {
 TEST(Menu2, CaptionsInBothLanguages) {
   const LangCase cases[] = {
       {0, "Créer une tolmar", "Quitter",
-       "L'auteur ne prend aucune responsabilité quand aux conséquences résultant de l'utilisation de ce "
+       "L'auteur ne prend aucune responsabilité quand aux conséquences résultant de l'utilisation "
+       "de ce "
        "logiciel."},
       {1, "Create a hull", "Quit",
-       "The author takes no responsibility for the consequences resulting from the use of this software."},
+       "The author takes no responsibility for the consequences resulting from the use of this "
+       "software."},
   };
   for (const auto& c : cases) {
     Menu2 m;
@@ -115,8 +119,8 @@ TEST(Menu2, CreateTwiceKeepsTheHullAndTheFixedTitle) {
 }
 
 TEST(Menu2, TerminateAndCloseEndWithoutSaving) {
-  EXPECT_EQ(terminateClick(),
-            (Actions{onScreen(Do::Hide, ScreenId::menu2), onScreen(Do::EndProgram, ScreenId::menu2)}));
+  EXPECT_EQ(terminateClick(), (Actions{onScreen(Do::Hide, ScreenId::menu2),
+                                       onScreen(Do::EndProgram, ScreenId::menu2)}));
   EXPECT_EQ(closeMenu2(), (Actions{onScreen(Do::EndProgram, ScreenId::menu2)}));
 }
 

@@ -36,7 +36,8 @@ TEST(Overlap1, LoadAndCaptions) {
   EXPECT_EQ(en.s.Label3(2).caption, "Thickness of bow plate");
   EXPECT_EQ(en.s.Command1(1).caption, "Strip planking/welding\nreset all to 0");
   EXPECT_EQ(en.s.Label9(5).caption, "mm");
-  EXPECT_EQ(en.s.Label0.caption.substr(0, 53), "This screen allows to enter the thickness of planks \n");
+  EXPECT_EQ(en.s.Label0.caption.substr(0, 53),
+            "This screen allows to enter the thickness of planks \n");
   for (const Field* f : {&en.s.Text1(0), &en.s.Text1(1), &en.s.Text2(0), &en.s.Text2(1),
                          &en.s.Text3(1), &en.s.Text3(2)})
     EXPECT_EQ(f->text, "0");

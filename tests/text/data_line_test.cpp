@@ -22,7 +22,9 @@ TEST(CleanNumber, TurnsEveryCommaIntoAPointInPlace) {
 }
 
 TEST(ReadDataLine, SplitsAtLineFeedAndDropsControlCharacters) {
-  std::istringstream in("first\r\n 1,5\r\n\ta\x01" "b\x7f\r\nlast-no-end");
+  std::istringstream in(
+      "first\r\n 1,5\r\n\ta\x01"
+      "b\x7f\r\nlast-no-end");
   EXPECT_EQ(readDataLine(in), "first");
   EXPECT_EQ(readDataLine(in), " 1.5");
   EXPECT_EQ(readDataLine(in), "ab\x7f");

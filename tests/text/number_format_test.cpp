@@ -103,15 +103,15 @@ TEST(FormatNumber, EveryPictureOfTheProgram) {
 }
 
 const FormatCase kGrammar[] = {
-    {"0.##", 5, "5."},        // the point stays when no fraction digit follows
+    {"0.##", 5, "5."},  // the point stays when no fraction digit follows
     {"#.##", 0.5, ".5"},
     {"#.00", 0.5, ".50"},
     {"#", 0, ""},
-    {".00", 5.5, "5.50"},     // integer digits before a point without placeholders
+    {".00", 5.5, "5.50"},  // integer digits before a point without placeholders
     {"0;(0)", -5, "(5)"},
     {"0;(0);\"zero\"", 0, "zero"},
     {"0;;nil", 0, "nil"},
-    {"0;", -5, "-5"},         // empty negative section: the first, with a minus
+    {"0;", -5, "-5"},  // empty negative section: the first, with a minus
     {"\\#0", 5, "#5"},
     {"\"x=\"0.0", 2, "x=2.0"},
     {"abc", -1, "-abc"},

@@ -49,7 +49,8 @@ TEST(HullNumberText, WritesTheFileForm) {
 }
 
 TEST(HullNumberText, ReadsBackToFifteenDigits) {
-  const double values[] = {1.0 / 3, -2.0 / 3, 0.1, 6.123456789012345, 1e-5, 1.5e-7, 3.3e20, -7e-300};
+  const double values[] = {1.0 / 3, -2.0 / 3, 0.1,    6.123456789012345,
+                           1e-5,    1.5e-7,   3.3e20, -7e-300};
   for (double v : values) {
     const std::string t = hullNumberText(v);
     EXPECT_EQ(hullNumberText(readNumber(t)), t) << v;
