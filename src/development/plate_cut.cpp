@@ -2,13 +2,12 @@
 
 #include <cmath>
 
+#include "hull/angle_constants.h"
 #include "hull/geometrie.h"
 
 namespace tolmar {
 
 namespace {
-
-constexpr double kDegree = 57.2957795130823;  // degrees in a radian, as the end angles use it
 
 FlatPoint low(const DevEdges& h, int i) { return {h.xi(i), h.yi(i)}; }
 FlatPoint up(const DevEdges& h, int i) { return {h.xs(i), h.ys(i)}; }
@@ -50,14 +49,14 @@ CutOutline cutOutline(const HullStore& h, const DevEdges& d, int n, int lastPoin
   }
   const bool bottom = n == 0;
 
-  const double dAft =
-      bottom ? h.transomThick * 1.1 / std::cos(h.transomAngle / kDegree) : h.transomThick * 1.2;
+  const double dAft = bottom ? h.transomThick * 1.1 / std::cos(h.transomAngle / kDegreesPerRadian)
+                             : h.transomThick * 1.2;
   c.up(0) = shiftPrev(mid(up(d, 1), up(d, 2)), up(d, 0), low(d, 0), dAft);
   c.low(0) = shiftNext(up(d, 0), low(d, 0), mid(low(d, 1), low(d, 2)), dAft);
 
   if (h.yFwd(1) > 0.00001) {
     const double dFwd =
-        bottom ? h.bowThick * 1.2 / std::cos(h.bowAngle / kDegree) : h.bowThick * 1.2;
+        bottom ? h.bowThick * 1.2 / std::cos(h.bowAngle / kDegreesPerRadian) : h.bowThick * 1.2;
     if (bottom) {
       c.low(81) = shiftPrev(low(d, 80), low(d, 81), low(d, 82), dFwd);
       c.up(83) = shiftNext(low(d, 82), up(d, 83), up(d, 82), dFwd);
