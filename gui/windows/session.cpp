@@ -56,6 +56,7 @@ void Session::start() {
 void Session::create() { perform(screens::createClick(dessin().state(), *h_)); }
 
 void Session::perform(const Actions& actions) {
+  if (ended_) return;  // no window comes back once the program has ended
   ++depth_;
   for (std::size_t i = 0; i < actions.size(); ++i) {
     if (actions[i].what == Do::ShowModal && isHullScreen(actions[i].screen)) {
