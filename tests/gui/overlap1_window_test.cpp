@@ -24,9 +24,13 @@ class Overlap1WindowTest : public QObject {
   std::unique_ptr<HullStore> h_;
   std::unique_ptr<Overlap1Window> w_;
 
-  // Runs the modal window and answers it with `user`.
+  // Runs the modal window and answers it with `user` once the window is
+  // active, so that a focus moved between its fields is a field left.
   int run(std::function<void(Overlap1Window*)> user) {
-    test::whenModal<Overlap1Window>(user);
+    test::whenModal<Overlap1Window>([user](Overlap1Window* w) {
+      if (!QTest::qWaitForWindowActive(w)) qWarning("overlap1 never became active");
+      user(w);
+    });
     return w_->run();
   }
 
