@@ -15,6 +15,7 @@
 #include "board/recording_surface.h"
 #include "windows/hydro1_window.h"
 #include "windows/mass1_window.h"
+#include "windows/twips.h"
 
 namespace tolmar::gui {
 
@@ -122,7 +123,7 @@ void AnalysisWindows::place() {
   QScreen* screen =
       board_ && board_->screen() ? board_->screen() : QGuiApplication::primaryScreen();
   if (!screen) return;
-  const double twips = 1440.0 / screen->logicalDotsPerInch();
+  const Twips t(screen->logicalDotsPerInchX(), screen->logicalDotsPerInchY());
   const QRect display = screen->availableGeometry();
   // The frame around a window: as the platform tells it for mass1, or as
   // the board has it once shown (a window manager tells it only then).
@@ -135,21 +136,20 @@ void AnalysisWindows::place() {
   hydro_->resize(hydro_->sizeHint().expandedTo(hydro_->minimumSizeHint()));
   mass_->resize(mass_->sizeHint().expandedTo(mass_->minimumSizeHint()));
   const QSize hydro = hydro_->size() + frame, mass = mass_->size() + frame;
-  const analysis::PairPlacement p =
-      analysis::placePair(display.width() * twips, display.height() * twips, hydro.width() * twips,
-                          hydro.height() * twips, mass.width() * twips, mass.height() * twips);
-  auto dots = [twips](double t) { return static_cast<int>(std::lround(t / twips)); };
-  hydro_->move(display.left() + dots(p.hydro.left), display.top() + dots(p.hydro.top));
-  const int massHeight = std::min(mass.height(), dots(p.mass.height)) - frame.height();
+  const analysis::PairPlacement p = analysis::placePair(
+      t.twipsX(display.width()), t.twipsY(display.height()), t.twipsX(hydro.width()),
+      t.twipsY(hydro.height()), t.twipsX(mass.width()), t.twipsY(mass.height()));
+  hydro_->move(display.topLeft() + t.pixelAt(p.hydro.left, p.hydro.top));
+  const QPoint massAt = display.topLeft() + t.pixelAt(p.mass.left, p.mass.top);
+  const int massHeight = std::min(mass.height(), t.y(p.mass.height)) - frame.height();
   if (massHeight < mass_->height()) {
     // Shortened: the rows scroll, and the bar takes its room beside them,
     // kept on the display.
     const int width = mass_->width() + mass_->scrollBarWidth();
     mass_->resize(width, massHeight);
   }
-  const int massLeft = std::min(display.left() + dots(p.mass.left),
-                                display.right() + 1 - mass_->width() - frame.width());
-  mass_->move(std::max(display.left(), massLeft), display.top() + dots(p.mass.top));
+  const int massLeft = std::min(massAt.x(), display.right() + 1 - mass_->width() - frame.width());
+  mass_->move(std::max(display.left(), massLeft), massAt.y());
 }
 
 void AnalysisWindows::quit() {
