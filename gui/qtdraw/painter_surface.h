@@ -40,6 +40,8 @@ class PainterSurface : public DrawingSurface {
   virtual void endDoc() {}
   // Exclusive or is honoured only on raster devices.
   virtual bool rasterOps() const { return false; }
+  // Device pixels to a pen's dot of width (a picture finer than its dots).
+  virtual double penScale() const { return 1; }
 
   QPainter* painter_ = nullptr;
   QPaintDevice* device_ = nullptr;
