@@ -125,9 +125,11 @@ std::string millimetres(double d) {
 
 }  // namespace
 
-FoldReport checkFolds(const HullStore& h) {
+FoldReport checkFolds(const HullStore& h) { return checkFoldsUpTo(h, kMaxLine); }
+
+FoldReport checkFoldsUpTo(const HullStore& h, int lastLine) {
   FoldReport r;
-  const int top = std::min<int>(h.nChines, kMaxLine);
+  const int top = std::min({static_cast<int>(h.nChines), lastLine, kMaxLine});
   if (top < 1) return r;
 
   std::array<double, kMaxLine + 1> cosA{}, sinA{};

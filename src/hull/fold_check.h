@@ -49,5 +49,8 @@ inline constexpr double kFoldTolerance = 1e-4;
 // Lines 0..nChines, points 0..82.  Never fails; non-finite points are
 // skipped.
 FoldReport checkFolds(const HullStore& h);
+// Lines 0..min(nChines, lastLine) only: after the bottom screen alone the
+// lines above line 1 are not built for the present bottom (lastLine 1).
+FoldReport checkFoldsUpTo(const HullStore& h, int lastLine);
 
 }  // namespace tolmar

@@ -179,6 +179,17 @@ TEST(FoldCheck, OneStationCrossesTheBottom) {
       << r.message(0);
 }
 
+// After the bottom screen alone, lines 2..5 of the default hull are still
+// empty (all zero): checked with them, plank 1 runs down to the origin;
+// up to line 1 the bottom is sound.
+TEST(FoldCheck, UpToALine) {
+  const HullStore h = testing::validatedDefaultHull();
+  EXPECT_TRUE(checkFolds(h).folded());
+  const FoldReport bottom = checkFoldsUpTo(h, 1);
+  EXPECT_FALSE(bottom.folded()) << bottom.message(1);
+  EXPECT_FALSE(checkFoldsUpTo(h, -3).folded());
+}
+
 TEST(FoldCheck, NeverFailsOnOddStores) {
   HullStore empty;
   EXPECT_FALSE(checkFolds(empty).folded());
