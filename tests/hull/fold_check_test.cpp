@@ -180,11 +180,14 @@ TEST(FoldCheck, OneStationCrossesTheBottom) {
       << r.message(0);
 }
 
-// After the bottom screen alone, lines 2..5 of the default hull are still
-// empty (all zero): checked with them, plank 1 runs down to the origin;
-// up to line 1 the bottom is sound.
-TEST(FoldCheck, UpToALine) {
-  const HullStore h = testing::validatedDefaultHull();
+// Lines that were never built for the present bottom: checked with them,
+// plank 1 runs down to the origin.  After the bottom screen alone their
+// planes are still zero, and the check stops below them; lines built for
+// an earlier bottom are left out by checking up to line 1.
+TEST(FoldCheck, LinesNotBuiltAreLeftOut) {
+  HullStore h = testing::validatedDefaultHull();
+  EXPECT_FALSE(checkFolds(h).folded()) << checkFolds(h).message(1);
+  h.planeA(2) = 0.1;  // as if fitted, but never built: line 2 is all zero
   EXPECT_TRUE(checkFolds(h).folded());
   const FoldReport bottom = checkFoldsUpTo(h, 1);
   EXPECT_FALSE(bottom.folded()) << bottom.message(1);
