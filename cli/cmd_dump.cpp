@@ -69,8 +69,6 @@ json dumpDocument(HullStore& h, const PipelineResult& r) {
                         {"depth", f.depth},
                         {"message", foldSentence(f, r.langue)}});
   j["warnings"] = std::move(warnings);
-  // Developing overwrites only the dev and end-plate arrays, which nothing
-  // above has printed.
   const json plates = platesJson(h);
   for (auto it = plates.begin(); it != plates.end(); ++it) j[it.key()] = it.value();
   return j;
