@@ -34,7 +34,7 @@ namespace {
 using board::BoardControl;
 
 constexpr const char* kUsage =
-    "HULL.D50 data|drawing|develop|station|all OUT.pdf [--paper A4|A3|Letter] [--landscape]\n"
+    "HULL.D50 data|drawing|develop|station|all|check OUT.pdf [--paper A4|A3|Letter] [--landscape]\n"
     "      [--margin-mm 5] [--calibrate X,Y] [--station X] [--lang fr|en] [--auto]\n"
     "      [--set SCREEN.CONTROL=VALUE]...";
 
@@ -56,11 +56,9 @@ int usage(const char* why) {
 
 std::optional<BoardControl> kindEntry(const std::string& kind) {
   static const std::map<std::string, BoardControl> kinds = {
-      {"data", BoardControl::fmenu_P_Data},
-      {"drawing", BoardControl::fmenu_P_Dessin},
-      {"develop", BoardControl::fmenu_P_Develop},
-      {"station", BoardControl::fmenu_P_Station},
-      {"all", BoardControl::fmenu_P_Tout}};
+      {"data", BoardControl::fmenu_P_Data},       {"drawing", BoardControl::fmenu_P_Dessin},
+      {"develop", BoardControl::fmenu_P_Develop}, {"station", BoardControl::fmenu_P_Station},
+      {"all", BoardControl::fmenu_P_Tout},        {"check", BoardControl::fmenu_P_Check}};
   const auto it = kinds.find(kind);
   if (it == kinds.end()) return std::nullopt;
   return it->second;
@@ -172,6 +170,9 @@ class PrintSteps : public board::StepHost {
         break;
       case BoardControl::fmenu_P_Tout:
         fmenu_P_Tout(job_, b_.stepIndex);
+        break;
+      case BoardControl::fmenu_P_Check:
+        fmenu_P_Check(job_);
         break;
       default:
         break;

@@ -48,6 +48,9 @@ bool printEntry(BoardWindows& w, HullStore& h, board::BoardState& b, board::Boar
     case C::fmenu_P_Tout:
       pages = [step](PrintJob& job) { fmenu_P_Tout(job, step); };
       break;
+    case C::fmenu_P_Check:
+      pages = [](PrintJob& job) { fmenu_P_Check(job); };
+      break;
     default:
       return false;
   }

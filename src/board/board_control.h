@@ -43,6 +43,7 @@ enum class BoardControl : int {
   fmenu_P_Develop,
   fmenu_P_Station,
   fmenu_P_Tout,
+  fmenu_P_Check,  // the development check, enabled with Developer
   fmenu_PSetup,
   separ2,
   fmenu_Quit,

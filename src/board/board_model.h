@@ -32,7 +32,10 @@ struct BoardState {
   // board shows its message as a warning line.
   FoldReport folds;
 
-  bool isEnabled(BoardControl c) const { return enabled[index(c)]; }
+  // The print entry of the development check follows Developer.
+  bool isEnabled(BoardControl c) const {
+    return enabled[index(c == BoardControl::fmenu_P_Check ? BoardControl::Developer : c)];
+  }
   void enable(BoardControl c, bool on = true) { enabled[index(c)] = on; }
 };
 

@@ -13,6 +13,13 @@ std::string radius(double r, int langue) {
   return r >= kStraightRadius ? pick(langue, "plat", "flat") : formatNumber(r, "0.00");
 }
 
+// Rounded to `picture` without a sign left on a zero.
+std::string figure(double v, const char* picture) {
+  std::string t = formatNumber(v, picture);
+  if (t.size() > 1 && t[0] == '-' && t.find_first_not_of("-0.") == std::string::npos) t.erase(0, 1);
+  return t;
+}
+
 std::string place(double r, double x) {
   return r >= kStraightRadius ? "" : formatNumber(x, "0.00");
 }
@@ -41,7 +48,7 @@ std::vector<std::string> checkCells(const PlateCheck& c, int langue) {
   return {name,
           formatNumber(1000 * c.fit.maxError, "0.00"),
           formatNumber(c.fit.errorPerMetre(), "0.000"),
-          formatNumber(c.fit.areaChangePercent(), "0.0000"),
+          figure(c.fit.areaChangePercent(), "0.0000"),
           radius(c.fit.minRadiusAlong, langue),
           place(c.fit.minRadiusAlong, c.alongX),
           radius(c.fit.minRadiusAcross, langue),

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "development/developed_plate.h"
+#include "printing/check_page.h"
 #include "printing/data_report.h"
 #include "printing/end_tables.h"
 #include "printing/offset_tables.h"
@@ -34,6 +35,8 @@ void drawingPages(PrintJob& job, int stepIndex) {
 }
 
 }  // namespace
+
+void fmenu_P_Check(PrintJob& job) { printDevCheck(job); }
 
 void fmenu_P_Data(PrintJob& job) {
   job.s.FontName = kPrinterFont;

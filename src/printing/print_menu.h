@@ -20,6 +20,9 @@ void fmenu_P_Develop(PrintJob& job, int stepIndex);
 // chosen it before.
 void fmenu_P_Station(PrintJob& job);
 
+// The development check of every plate, one table.
+void fmenu_P_Check(PrintJob& job);
+
 // Data, the three views, the offsets of every line, each plate with its
 // table, and the end plates with theirs.
 void fmenu_P_Tout(PrintJob& job, int stepIndex);

@@ -169,8 +169,9 @@ TEST(BoardEnabling, LoadDisablesFiveAndLeavesTheRestEnabled) {
   const BoardState b = loadBoard(h);
   for (std::size_t k = 0; k < kBoardControlCount; ++k) {
     const C c = static_cast<C>(k);
+    // The development check's print entry follows Developer.
     const bool off = c == C::DessCouple || c == C::Command1_1 || c == C::Developer ||
-                     c == C::dessine || c == C::Hmenu;
+                     c == C::dessine || c == C::Hmenu || c == C::fmenu_P_Check;
     EXPECT_EQ(b.isEnabled(c), !off) << controlName(c);
   }
   EXPECT_EQ(b.stepIndex, 0);
