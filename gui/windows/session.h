@@ -9,6 +9,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include "board/board_action.h"
 #include "hull/hull_store.h"
@@ -40,6 +42,12 @@ class Session : public QObject {
   // Create on menu2: the board loaded if it is not, then its steps.
   void create();
 
+  // `tolmar HULL.D50`, once the start screen shows: the board comes up
+  // with the hull read as its Open reads it, and bouchain1 on top.  A file
+  // that cannot be read, or holds no hull, leaves the start screen and the
+  // store as they were and says why in a message box.
+  void openAtStart(const std::string& path);
+
   // Runs the steps in order, then brings every window up to its model.
   void perform(const board::Actions& actions);
   void syncWindows();
@@ -47,6 +55,8 @@ class Session : public QObject {
   HullStore& store() { return *h_; }
   // The beep of a refused value; a test may count them instead.
   std::function<void()> beep;
+  // A message box over the start screen; a test may keep them instead.
+  std::function<void(std::string_view title, std::string_view text)> message;
 
   // Each loads its screen when it is not loaded.
   Menu2Window& menu2();
