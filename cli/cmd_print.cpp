@@ -2,12 +2,13 @@
 // it, then one entry of the print menu run on a PDF printer.
 #ifdef TOLMAR_HAVE_QTDRAW
 
+#include <QBuffer>
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <cstdio>
 #include <cstdlib>
 #include <map>
@@ -18,6 +19,7 @@
 #include "board/board_model.h"
 #include "cli_session_args.h"
 #include "command.h"
+#include "io/safe_write.h"
 #include "pipeline.h"
 #include "printing/print_menu.h"
 #include "qtdraw/paged_surface.h"
@@ -175,23 +177,26 @@ int run(const Args& args) {
   }
 
   const auto app = guiApplication();
-  // Written beside the target and renamed at the end, so that a failed
-  // print leaves an earlier file of that name as it was.
-  QSaveFile file(QString::fromStdString(p.out));
-  if (!file.open(QIODevice::WriteOnly)) {
+  // The target is checked first; the document is made in memory and goes
+  // to the file only once complete (io::SafeFile), so that a failed print
+  // leaves an earlier file of that name as it was.
+  io::SafeFile file(p.out);
+  if (file.error() != 0) {
     std::fprintf(stderr, "tolmar-cli print: cannot write %s: %s\n", p.out.c_str(),
-                 qPrintable(file.errorString()));
+                 file.errorText().c_str());
     return 1;
   }
+  QByteArray pdf;
   {
-    QPdfWriter writer(&file);
+    QBuffer buffer(&pdf);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
     writer.setTitle(QString::fromStdString(h->hullName));
     writer.setCreator(QStringLiteral("tolmar-cli"));
     writer.setPageSize(QPageSize(p.paper));
     writer.setPageOrientation(p.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     qtdraw::PagedSurface surface(writer);
     if (!surface.active()) {
-      file.cancelWriting();
       std::fprintf(stderr, "tolmar-cli print: cannot start a PDF document in %s\n", p.out.c_str());
       return 1;
     }
@@ -199,9 +204,10 @@ int run(const Args& args) {
     PrintJob job{surface, *h, host};
     runEntry(job, r.board, steps);
   }
-  if (!file.commit()) {
+  file.write(std::string_view(pdf.constData(), static_cast<std::size_t>(pdf.size())));
+  if (const io::WriteResult w = file.commit(); !w.ok()) {
     std::fprintf(stderr, "tolmar-cli print: cannot write %s: %s\n", p.out.c_str(),
-                 qPrintable(file.errorString()));
+                 w.message.c_str());
     return 1;
   }
   return 0;

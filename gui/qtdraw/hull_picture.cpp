@@ -1,5 +1,7 @@
 #include "qtdraw/hull_picture.h"
 
+#include <QBuffer>
+#include <QByteArray>
 #include <QImageWriter>
 #include <QString>
 
@@ -8,6 +10,7 @@
 #include "board/station_drawing.h"
 #include "board/views.h"
 #include "board/water_line.h"
+#include "io/safe_write.h"
 #include "qtdraw/image_surface.h"
 #include "qtdraw/svg_surface.h"
 
@@ -30,25 +33,33 @@ void drawHull(DrawingSurface& s, HullStore& h, const PictureOptions& o) {
 }  // namespace
 
 std::string writeHullPicture(HullStore& h, const std::string& path, const PictureOptions& options) {
-  const QString file = QString::fromStdString(path);
-  const QString lower = file.toLower();
+  const QString lower = QString::fromStdString(path).toLower();
   if (options.dots.width() < 1 || options.dots.height() < 1 || options.dots.width() > 20000 ||
       options.dots.height() > 20000)
     return "picture size out of 1..20000 dots";
-  if (lower.endsWith(".png")) {
+  const bool png = lower.endsWith(".png");
+  if (!png && !lower.endsWith(".svg")) return "the picture must end in .png or .svg: " + path;
+
+  // The target is checked first; the picture is made in memory and
+  // replaces the file only once complete.
+  io::SafeFile file(path);
+  if (file.error() != 0) return "cannot write " + path + ": " + file.errorText();
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  if (png) {
     ImageSurface s(options.dots);
     drawHull(s, h, options);
-    QImageWriter writer(file, "png");
+    QImageWriter writer(&buffer, "png");
     if (!writer.write(s.picture())) return writer.errorString().toStdString();
-    return {};
-  }
-  if (lower.endsWith(".svg")) {
-    SvgSurface s(file, options.dots, QString::fromStdString(h.hullName));
+  } else {
+    SvgSurface s(&buffer, options.dots, QString::fromStdString(h.hullName));
     drawHull(s, h, options);
-    if (!s.finish()) return "cannot write " + path;
-    return {};
+    if (!s.finish()) return "The SVG picture cannot be made";
   }
-  return "the picture must end in .png or .svg: " + path;
+  file.write(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  const io::WriteResult w = file.commit();
+  return w.ok() ? std::string() : "cannot write " + path + ": " + w.message;
 }
 
 }  // namespace tolmar::qtdraw

@@ -2,8 +2,8 @@
 
 namespace tolmar::qtdraw {
 
-SvgSurface::SvgSurface(const QString& path, QSize dots, const QString& title) : dots_(dots) {
-  generator_.setFileName(path);
+SvgSurface::SvgSurface(QIODevice* out, QSize dots, const QString& title) : dots_(dots) {
+  generator_.setOutputDevice(out);
   generator_.setSize(dots);
   generator_.setViewBox(QRect(QPoint(0, 0), dots));
   generator_.setResolution(96);

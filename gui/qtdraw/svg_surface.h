@@ -13,7 +13,7 @@ namespace tolmar::qtdraw {
 
 class SvgSurface : public PainterSurface {
  public:
-  SvgSurface(const QString& path, QSize dots, const QString& title);
+  SvgSurface(QIODevice* out, QSize dots, const QString& title);  // out must outlive finish()
   ~SvgSurface() override;
   SvgSurface(const SvgSurface&) = delete;
   SvgSurface& operator=(const SvgSurface&) = delete;

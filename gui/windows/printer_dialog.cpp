@@ -1,12 +1,14 @@
 #include "windows/printer_dialog.h"
 
+#include <QBuffer>
+#include <QByteArray>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSaveFile>
 #include <exception>
 
+#include "io/safe_write.h"
 #include "qtdraw/paged_surface.h"
 #include "windows/file_dialog.h"
 
@@ -50,10 +52,15 @@ PrintOutcome printToPdf(CmDialog1& files, QPrinter& printer, const QString& path
   std::string why;
   {
     Busy busy(files);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return fail(files, file.errorString().toStdString());
+    // The target is checked before the pages are drawn; the document is
+    // made in memory and replaces the file only once complete.
+    io::SafeFile file(path.toStdString());
+    if (file.error() != 0) return fail(files, file.errorText());
+    QByteArray pdf;
     {
-      QPdfWriter writer(&file);
+      QBuffer buffer(&pdf);
+      buffer.open(QIODevice::WriteOnly);
+      QPdfWriter writer(&buffer);
       writer.setCreator("Tolmar2008");
       writer.setPageLayout(printer.pageLayout());
       qtdraw::PagedSurface surface(writer);
@@ -61,9 +68,8 @@ PrintOutcome printToPdf(CmDialog1& files, QPrinter& printer, const QString& path
       if (!drawPages(surface, draw, why)) return fail(files, why);
       if (surface.active()) surface.EndDoc();
     }
-    // The file replaces its target only when every byte went out.
-    if (file.error() != QFileDevice::NoError) return fail(files, file.errorString().toStdString());
-    if (!file.commit()) return fail(files, file.errorString().toStdString());
+    file.write(std::string_view(pdf.constData(), static_cast<std::size_t>(pdf.size())));
+    if (const io::WriteResult w = file.commit(); !w.ok()) return fail(files, w.message);
   }
   return PrintOutcome::printed;
 }

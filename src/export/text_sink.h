@@ -1,11 +1,12 @@
-// Where the lines of an export go: a string in memory, or a file that is
-// written under a temporary name beside the chosen one and renamed over it
-// only when everything went out, so a failed export leaves no partial file.
+// Where the lines of an export go: a string in memory, or a file written
+// through io::SafeFile, so a failed export leaves no partial file.
 // Every line ends in carriage return and line feed (bytes 13, 10).
 #pragma once
 
 #include <string>
 #include <string_view>
+
+#include "io/safe_write.h"
 
 namespace tolmar {
 
@@ -30,33 +31,22 @@ class StringSink final : public TextSink {
 
 class FileSink final : public TextSink {
  public:
-  // Creates the temporary file in the folder of `path`; error() tells if
-  // that failed.  Writes after a failure are dropped.
-  explicit FileSink(std::string path);
-  ~FileSink() override;  // removes the temporary file unless committed
-  FileSink(const FileSink&) = delete;
-  FileSink& operator=(const FileSink&) = delete;
+  // Creates the temporary file beside `path` (see io::SafeFile); error()
+  // tells if that failed.  Writes after a failure are dropped.
+  explicit FileSink(std::string path) : file_(std::move(path)) {}
 
-  void write(std::string_view bytes) override;
+  void write(std::string_view bytes) override { file_.write(bytes); }
 
-  // Flushes, closes and renames the file to its path; false on any failure
-  // so far or now, with the temporary file removed.
-  bool commit();
+  // Flushes, syncs and renames the file over its path; false on any
+  // failure so far or now, with the temporary file removed.
+  bool commit() { return file_.commit().ok(); }
 
-  void fail(int err);                   // records err (errno) as the failure if there was none yet
-  int error() const { return error_; }  // errno of the first failure, 0 if none
-  std::string errorText() const;        // the system's text of that error
+  void fail(int err) { file_.fail(err); }      // records err (errno) if there was no failure yet
+  int error() const { return file_.error(); }  // errno of the first failure, 0 if none
+  std::string errorText() const { return file_.errorText(); }  // the system's text of it
 
  private:
-  void flush();
-  void discard();
-
-  std::string path_;
-  std::string tmpPath_;
-  int fd_ = -1;
-  int error_ = 0;
-  bool committed_ = false;
-  std::string buf_;
+  io::SafeFile file_;
 };
 
 }  // namespace tolmar

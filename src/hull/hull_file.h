@@ -34,10 +34,10 @@ std::string makeDataTag(const HullStore& h);
 // below 32 in hullName are left out so that the layout holds.
 void writeHullFile(std::ostream& out, const HullStore& h);
 
-// Sets dataTag and writes the file at path.  The text goes to a new file in
-// the same folder that replaces the target only once it is complete, so a
-// failed save leaves the former file as it was.  The path is taken as it
-// stands (see hullSavePath for the extension rule).
+// Sets dataTag and writes the file at path through io::SafeFile: a failed
+// save leaves the former file as it was, a link is written through, a file
+// the user may not write is refused.  The path is taken as it stands (see
+// hullSavePath for the extension rule).
 FileResult saveHullFile(const std::filesystem::path& path, HullStore& h);
 
 // Reads the file's values into the store, in the file's order, with the

@@ -1,16 +1,10 @@
 // Writing the hull file, and the rules for the names of a saved hull.
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <ostream>
-#include <random>
-#include <sstream>
 
 #include "hull/hull_file.h"
+#include "io/safe_write.h"
 #include "text/number_format.h"
 #include "text/number_text.h"
 
@@ -21,22 +15,6 @@ namespace {
 constexpr const char* kEol = "\r\n";
 
 int lastLine(const HullStore& h) { return std::clamp<int>(h.nChines, 0, kMaxLine); }
-
-FileResult systemError(int err) { return {false, std::strerror(err)}; }
-
-// Writes all of text to fd, then flushes it to the disk.
-bool writeAll(int fd, const std::string& text) {
-  std::size_t done = 0;
-  while (done < text.size()) {
-    const ssize_t n = ::write(fd, text.data() + done, text.size() - done);
-    if (n < 0) {
-      if (errno == EINTR) continue;
-      return false;
-    }
-    done += static_cast<std::size_t>(n);
-  }
-  return ::fsync(fd) == 0;
-}
 
 }  // namespace
 
@@ -77,34 +55,9 @@ void writeHullFile(std::ostream& out, const HullStore& h) {
 
 FileResult saveHullFile(const std::filesystem::path& path, HullStore& h) {
   h.dataTag = makeDataTag(h);
-  std::ostringstream text;
-  writeHullFile(text, h);
-
-  // A new file beside the target, renamed over it once complete.
-  const std::filesystem::path dir = path.has_parent_path() ? path.parent_path() : ".";
-  std::random_device rd;
-  std::filesystem::path tmp;
-  int fd = -1;
-  for (int attempt = 0; attempt < 50 && fd < 0; ++attempt) {
-    tmp = dir / ("." + path.filename().string() + ".tmp" + std::to_string(rd() % 1000000));
-    fd = ::open(tmp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (fd < 0 && errno != EEXIST) return systemError(errno);
-  }
-  if (fd < 0) return systemError(EEXIST);
-  struct stat old {};
-  if (::stat(path.c_str(), &old) == 0 && S_ISREG(old.st_mode)) ::fchmod(fd, old.st_mode & 07777);
-  if (!writeAll(fd, text.str())) {
-    const int err = errno;
-    ::close(fd);
-    ::unlink(tmp.c_str());
-    return systemError(err);
-  }
-  if (::close(fd) != 0 || ::rename(tmp.c_str(), path.c_str()) != 0) {
-    const int err = errno;
-    ::unlink(tmp.c_str());
-    return systemError(err);
-  }
-  return {};
+  const io::WriteResult r =
+      io::writeFileSafely(path.string(), [&h](std::ostream& out) { writeHullFile(out, h); });
+  return {r.ok(), r.message};
 }
 
 std::string hullNameFromFileName(std::string_view fileName) {
