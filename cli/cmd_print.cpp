@@ -17,12 +17,15 @@
 #include <string>
 
 #include "board/board_model.h"
+#include "board/step_host.h"
+#include "board/step_runner.h"
 #include "cli_session_args.h"
 #include "command.h"
 #include "io/safe_write.h"
 #include "pipeline.h"
 #include "printing/print_menu.h"
 #include "qtdraw/paged_surface.h"
+#include "unseen_picture.h"
 
 namespace tolmar::cli {
 namespace {
@@ -121,35 +124,44 @@ std::unique_ptr<QGuiApplication> guiApplication() {
   return std::make_unique<QGuiApplication>(argc, argv);
 }
 
-// The board's steps of a print entry: Draw station first for the station
-// sheet, then the document.
-void runEntry(PrintJob& job, board::BoardState& b, const board::Actions& steps) {
-  for (const board::Action& a : steps) {
-    if (a.what != board::Do::Run) continue;
-    switch (a.control) {
+// The steps of a print entry, run by the board's runner: Draw station's
+// part on the board first for the station sheet, then the document.
+class PrintSteps : public board::StepHost {
+ public:
+  PrintSteps(PrintJob& job, board::BoardState& b) : job_(job), b_(b) {}
+
+  board::BoardState& board() override { return b_; }
+  DrawingSurface& picture() override { return picture_; }
+  void command(BoardControl c) override {
+    switch (c) {
       case BoardControl::DessCouple:
-        board::drawStationState(b, job.h);
+        board::drawStationState(b_, job_.h);
         break;
       case BoardControl::fmenu_P_Data:
-        fmenu_P_Data(job);
+        fmenu_P_Data(job_);
         break;
       case BoardControl::fmenu_P_Dessin:
-        fmenu_P_Dessin(job, b.stepIndex);
+        fmenu_P_Dessin(job_, b_.stepIndex);
         break;
       case BoardControl::fmenu_P_Develop:
-        fmenu_P_Develop(job, b.stepIndex);
+        fmenu_P_Develop(job_, b_.stepIndex);
         break;
       case BoardControl::fmenu_P_Station:
-        fmenu_P_Station(job);
+        fmenu_P_Station(job_);
         break;
       case BoardControl::fmenu_P_Tout:
-        fmenu_P_Tout(job, b.stepIndex);
+        fmenu_P_Tout(job_, b_.stepIndex);
         break;
       default:
         break;
     }
   }
-}
+
+ private:
+  PrintJob& job_;
+  board::BoardState& b_;
+  UnseenPicture picture_;
+};
 
 int run(const Args& args) {
   PrintArgs p;
@@ -202,7 +214,8 @@ int run(const Args& args) {
     }
     PrintHost host;
     PrintJob job{surface, *h, host};
-    runEntry(job, r.board, steps);
+    PrintSteps entry(job, r.board);
+    board::StepRunner(entry, *h).perform(steps);
   }
   file.write(std::string_view(pdf.constData(), static_cast<std::size_t>(pdf.size())));
   if (const io::WriteResult w = file.commit(); !w.ok()) {

@@ -4,7 +4,6 @@
 #include <charconv>
 #include <type_traits>
 
-#include "board/board_layout.h"
 #include "board/step_host.h"
 #include "board/step_runner.h"
 #include "hull/hull_file.h"
@@ -12,6 +11,7 @@
 #include "screens/bouchain2.h"
 #include "screens/bouchain3.h"
 #include "screens/menu2.h"
+#include "unseen_picture.h"
 
 namespace tolmar::cli {
 
@@ -71,21 +71,6 @@ Target find(Bouchain3& b, const SetValue& s) {
   if (s.control == "Text4") return single(b.Text4, s);
   return unknown(s);
 }
-
-// The board's picture Plan1 on the display the windows are laid out on:
-// the redraw fits the views to its size; nothing is painted.
-class UnseenPicture : public DrawingSurface {
- public:
-  UnseenPicture() {
-    const board::Rect plan = board::loadLayout(kDisplayWidth, kDisplayHeight).plan1;
-    setOuterSize(static_cast<float>(plan.width), static_cast<float>(plan.height));
-  }
-  float TextWidth(std::string_view) const override { return 0; }
-  float TextHeight(std::string_view) const override { return 0; }
-
- protected:
-  void render(const DrawCall&) override {}
-};
 
 // One run of the windows: the start screen, the board and the hull
 // screens, their events' steps run by the runner the windows use.  A hull

@@ -120,8 +120,8 @@ PrintOutcome printDocument(CmDialog1& files, CmDialog2& printers, const HullStor
   if (!printers.pdfOnly && printer.outputFormat() == QPrinter::PdfFormat)
     path = printer.outputFileName();
   if (path.isEmpty()) {
-    const auto choice =
-        files.askSaveFile({std::string(kPdfTitle), kPdfFilter, h.hullName + ".PDF", std::nullopt});
+    const auto choice = files.askSaveFileOnce(
+        {std::string(kPdfTitle), kPdfFilter, h.hullName + ".PDF", std::nullopt});
     if (!choice) return PrintOutcome::cancelled;
     path = QString::fromStdString(choice->path);
   }
