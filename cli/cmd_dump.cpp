@@ -47,8 +47,6 @@ json dumpDocument(HullStore& h, const PipelineResult& r) {
     warnings.push_back(
         {{"screen", w.screen}, {"control", w.control}, {"typed", w.typed}, {"kept", w.kept}});
   j["warnings"] = std::move(warnings);
-  // Developing overwrites only the dev and end-plate arrays, which nothing
-  // above has printed.
   const json plates = platesJson(h);
   for (auto it = plates.begin(); it != plates.end(); ++it) j[it.key()] = it.value();
   return j;
