@@ -51,6 +51,7 @@ void openReadHull(HullStore& h, const HullStore& read, board::BoardState& b,
                   const BoardHooks& hooks) {
   h = read;
   board::openNamed(b, h);
+  board::checkHull(b, h);
   refresh(hooks);
   perform(hooks, board::openBeforeRebuild(b));
   const board::Actions next = board::openAfterRebuild(b);
