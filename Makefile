@@ -2,8 +2,9 @@
 BUILD      ?= build
 BUILD_TYPE ?= Release
 JOBS       ?= $(shell nproc)
+PREFIX     ?= /usr/local
 
-.PHONY: all deps configure build test run demo bench fuzz clean
+.PHONY: all deps configure build test run demo bench fuzz clean install package
 
 all: build
 
@@ -33,5 +34,15 @@ bench: build
 fuzz:
 	scripts/fuzz-smoke
 
+# Both programs, manual pages, desktop entry, icon, hull file type, completion.
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
+
+# The Debian package tolmar_VERSION_ARCH.deb, here: `apt install ./tolmar_*.deb`.
+package: build
+	rm -f $(BUILD)/package/tolmar_*.deb
+	cpack -G DEB --config $(BUILD)/CPackConfig.cmake -B $(abspath $(BUILD))/package
+	cp $(BUILD)/package/tolmar_*.deb .
+
 clean:
-	rm -rf $(BUILD) build-fuzz demo
+	rm -rf $(BUILD) build-fuzz demo tolmar_*.deb

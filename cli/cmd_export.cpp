@@ -80,6 +80,17 @@ int run(const Args& given) {
   return runExportKind(host, *h, r, a, a.positional[1]);
 }
 
+// The kinds of export-all and the two 3-D models, which export-all leaves out.
+const std::vector<std::string>& kindsWithModels() {
+  static const std::vector<std::string> kinds = [] {
+    std::vector<std::string> k = exportKinds();
+    k.push_back("stl");
+    k.push_back("obj");
+    return k;
+  }();
+  return kinds;
+}
+
 Register reg({"export",
               "HULL.D50 KIND OUT [--lang fr|en] [--auto] [--set SCREEN.CONTROL=VALUE]...\n"
               "            [--overlap strip|lap|cancel] [--station X] [--mm] [--scale 1:N]",
@@ -94,12 +105,12 @@ Register reg({"export",
               "  board's, at the maximum beam), plank-xyz:N, deck-xyz:N, transom-xyz,\n"
               "  bow-xyz, stl (binary, the closed hull surface in metres, or millimetres\n"
               "  with --mm), obj (one group per plate, the keel, chines and sheer as\n"
-              "  lines); --scale 1:N scales both for a model.  --set types into bouchain1/2/3 as "
-              "for dump.  --lang picks the\n"
+              "  lines); --scale 1:N scales both for a model.  --set types into\n"
+              "  bouchain1/2/3 as for dump.  --lang picks the\n"
               "  words of the files (en by default).  Status 1: the hull or OUT cannot be\n"
               "  read or written, with the export's error title on stderr; 2: a wrong\n"
               "  command line, a hull the screens refuse or, for stl and obj, a folded hull.",
-              &run});
+              &run, &kindsWithModels});
 
 }  // namespace
 }  // namespace tolmar::cli
