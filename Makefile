@@ -35,8 +35,12 @@ fuzz:
 	scripts/fuzz-smoke
 
 # Both programs, manual pages, desktop entry, icon, hull file type, completion.
+# The file type and the menu entry take effect once their databases are
+# rebuilt, as the package's triggers do on install.
 install: build
 	cmake --install $(BUILD) --prefix $(PREFIX)
+	-command -v update-mime-database >/dev/null && update-mime-database $(PREFIX)/share/mime
+	-command -v update-desktop-database >/dev/null && update-desktop-database $(PREFIX)/share/applications
 
 # The Debian package tolmar_VERSION_ARCH.deb, here: `apt install ./tolmar_*.deb`.
 package: build
