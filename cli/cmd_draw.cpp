@@ -12,6 +12,7 @@
 
 #include "analysis/hydro_screen.h"
 #include "command.h"
+#include "number_arg.h"
 #include "pipeline.h"
 #include "qtdraw/hull_picture.h"
 #include "text/number_format.h"
@@ -84,7 +85,11 @@ int run(const Args& args) {
       if (a == "--station") {
         pic.station = v;
       } else if (a == "--hydro-zwl" || a == "--hydro-disp") {
-        (a == "--hydro-zwl" ? zwl : disp) = v;
+        const bool z = a == "--hydro-zwl";
+        if (!numberArg("draw", a, v, z ? NumberRange{-1000, 1000} : NumberRange{0, 1e6},
+                       z ? "a height of -1000 to 1000 m" : "a volume of 0 to 1e6 m3"))
+          return 2;
+        (z ? zwl : disp) = v;
         if (!zwl.empty() && !disp.empty()) return usage();
         pic.waterline = true;
       } else if (a == "--set") {

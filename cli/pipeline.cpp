@@ -6,6 +6,7 @@
 
 #include "board/board_layout.h"
 #include "hull/hull_file.h"
+#include "hull/hull_file_check.h"
 #include "hull/stations.h"
 #include "screens/bouchain1.h"
 #include "screens/bouchain2.h"
@@ -116,7 +117,11 @@ PipelineResult Session::run() {
     // before the board's Open, changes nothing that the file does not
     // replace, and is left out.
     board::boardOnCreate(r_.board, h_);
-    const FileResult read = openHullFile(*o_.hullFile, h_);
+    FileResult read = openHullFile(*o_.hullFile, h_);
+    if (read.ok) {
+      // Opened, so a regular file: an empty one or a picture is no hull.
+      if (std::string why = notAHullFile(*o_.hullFile); !why.empty()) read = {false, why};
+    }
     if (!read.ok) {
       fail(1, "Tolmar2008 Opening file: " + o_.hullFile->string() + ": " + read.message);
       return r_;
