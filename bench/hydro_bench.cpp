@@ -7,6 +7,7 @@
 #include "../tests/analysis/default_hull.h"
 #include "analysis/hydro_solver.h"
 #include "analysis/mass_screen.h"
+#include "hull/angle_constants.h"
 
 namespace {
 
@@ -30,7 +31,7 @@ void BM_SolverDefaultHullMassBudget(benchmark::State& state) {
   state.counters["outer"] = o.outerPasses;
   state.counters["counted"] = o.innerPasses;
   state.counters["V_m3"] = o.sums.V;
-  state.counters["pitch_deg"] = h->pitch * 180 / 3.14159265358979;
+  state.counters["pitch_deg"] = h->pitch * 180 / tolmar::kPi;
 }
 BENCHMARK(BM_SolverDefaultHullMassBudget)->Unit(benchmark::kMicrosecond);
 

@@ -11,6 +11,7 @@
 #include "board/recording_surface.h"
 #include "windows/hydro1_window.h"
 #include "windows/mass1_window.h"
+#include "windows/twips.h"
 
 namespace tolmar::gui {
 
@@ -114,17 +115,15 @@ void AnalysisWindows::place() {
   QScreen* screen =
       board_ && board_->screen() ? board_->screen() : QGuiApplication::primaryScreen();
   if (!screen) return;
-  const double twips = 1440.0 / screen->logicalDotsPerInch();
+  const Twips t(screen->logicalDotsPerInchX(), screen->logicalDotsPerInchY());
   const QRect display = screen->availableGeometry();
   hydro_->adjustSize();
   mass_->adjustSize();
-  const auto hp = analysis::hydroPlace(display.width() * twips, hydro_->width() * twips);
-  const auto mp = analysis::massPlace(display.width() * twips, display.height() * twips,
-                                      mass_->width() * twips, mass_->height() * twips);
-  hydro_->move(display.left() + static_cast<int>(hp.left / twips),
-               display.top() + static_cast<int>(hp.top / twips));
-  mass_->move(display.left() + static_cast<int>(mp.left / twips),
-              display.top() + static_cast<int>(mp.top / twips));
+  const auto hp = analysis::hydroPlace(t.twipsX(display.width()), t.twipsX(hydro_->width()));
+  const auto mp = analysis::massPlace(t.twipsX(display.width()), t.twipsY(display.height()),
+                                      t.twipsX(mass_->width()), t.twipsY(mass_->height()));
+  hydro_->move(display.topLeft() + t.pixelAt(hp.left, hp.top));
+  mass_->move(display.topLeft() + t.pixelAt(mp.left, mp.top));
 }
 
 void AnalysisWindows::quit() {

@@ -32,6 +32,11 @@ QRect Twips::rect(const board::Rect& r) const {
   return QRect(left, top, x(r.right()) - left, y(r.bottom()) - top);
 }
 
+QPoint Twips::pixelAt(double xTwips, double yTwips) const {
+  return {static_cast<int>(xTwips * dpiX_ / kTwipsPerInch),
+          static_cast<int>(yTwips * dpiY_ / kTwipsPerInch)};
+}
+
 double Twips::twipsX(double px) const { return px * kTwipsPerInch / dpiX_; }
 double Twips::twipsY(double px) const { return px * kTwipsPerInch / dpiY_; }
 

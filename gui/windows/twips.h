@@ -3,6 +3,7 @@
 // place where a layout size in twips becomes a widget geometry.
 #pragma once
 
+#include <QPoint>
 #include <QRect>
 #include <QSizeF>
 
@@ -26,6 +27,9 @@ class Twips {
   }
   double twipsX(double px) const;
   double twipsY(double px) const;
+  // The pixel that a position in twips falls in, as a window is moved to
+  // it: cut toward zero, not rounded.
+  QPoint pixelAt(double xTwips, double yTwips) const;
 
  private:
   double dpiX_, dpiY_;

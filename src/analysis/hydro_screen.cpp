@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "analysis/field_read.h"
+#include "hull/angle_constants.h"
 #include "text/data_line.h"
 #include "text/number_format.h"
 
@@ -94,7 +95,7 @@ void hydroComments(Hydro1& s, const HullStore& h, const HydroOutcome& o) {
 }
 
 void calcHydro(Hydro1& s, HullStore& h) {
-  h.pitch = readField(s.Text3(0).text) * kPitchPi / 180;
+  h.pitch = readField(s.Text3(0).text) * kPi / 180;
   s.immersedChine = -1;
   cleanNumber(s.Text1(0).text);
   cleanNumber(s.Text1(1).text);
@@ -119,7 +120,7 @@ void calcHydro(Hydro1& s, HullStore& h) {
   s.Text1(0).text = threeDecimals(s.last.sums.V);
   h.totalMass = s.last.sums.V * 1000;
   s.Text1(1).text = threeDecimals(s.last.zWL);
-  s.Text3(0).text = formatNumber(h.pitch * 180 / kPitchPi, "0.0");
+  s.Text3(0).text = formatNumber(h.pitch * 180 / kPi, "0.0");
 
   if (s.busyPointer) s.busyPointer(false);
   hydroComments(s, h, s.last);
@@ -151,7 +152,7 @@ void hydroActivated(Hydro1& s, HullStore& h) {
     s.Text1(1).text = threeDecimals(h.xFwd(0) / 100);
     selectHydroOption(s, h, 1);
   }
-  s.Text3(0).text = formatNumber(h.pitch * 180 / kPitchPi, "0.0");
+  s.Text3(0).text = formatNumber(h.pitch * 180 / kPi, "0.0");
   calcHydro(s, h);
 }
 

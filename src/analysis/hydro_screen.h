@@ -17,9 +17,6 @@ namespace tolmar::analysis {
 inline constexpr std::int32_t kPaleCyan = rgb(192, 255, 255);
 inline constexpr std::int32_t kDeckWarning = rgb(255, 0, 0);
 
-// The pi of the pitch conversions, degrees to radians and back.
-inline constexpr double kPitchPi = 3.14159265358979;
-
 inline constexpr int kEnterKey = 13;
 
 struct Hydro1 {

@@ -8,6 +8,7 @@
 #include "text/data_line.h"
 #include "text/number_reader.h"
 #include "text/number_text.h"
+#include "text/utf8.h"
 
 namespace tolmar::board {
 
@@ -48,23 +49,6 @@ std::string upper(std::string s) {
       const auto next = static_cast<unsigned char>(s[i + 1]);
       if (next >= 0xA0 && next <= 0xBE && next != 0xB7) s[i + 1] = static_cast<char>(next - 0x20);
       ++i;
-    }
-  }
-  return s;
-}
-
-// Length of a UTF-8 text in characters, and its first n characters.
-std::size_t charCount(const std::string& s) {
-  return static_cast<std::size_t>(std::count_if(
-      s.begin(), s.end(), [](char ch) { return (static_cast<unsigned char>(ch) & 0xC0) != 0x80; }));
-}
-
-std::string firstChars(const std::string& s, std::size_t n) {
-  std::size_t seen = 0;
-  for (std::size_t i = 0; i < s.size(); ++i) {
-    if ((static_cast<unsigned char>(s[i]) & 0xC0) != 0x80) {
-      if (seen == n) return s.substr(0, i);
-      ++seen;
     }
   }
   return s;
@@ -203,7 +187,7 @@ void drawStationState(BoardState& b, HullStore& h) {
 }
 
 Actions text2Enter(BoardState& b, HullStore& h) {
-  const std::size_t n = charCount(b.text2);
+  const std::size_t n = utf8Length(b.text2);
   if (n < 3) {
     b.text2 = "TOLMAR";
     b.text2Background = kNameRefused;
@@ -213,7 +197,7 @@ Actions text2Enter(BoardState& b, HullStore& h) {
     b.text2 = upper(b.text2);
     b.text2Background = kScreenBackground;
   } else {
-    b.text2 = upper(firstChars(b.text2, 15));
+    b.text2 = upper(std::string(utf8Prefix(b.text2, 15)));
     b.text2Background = kNameCut;
   }
   h.hullName = b.text2;

@@ -3,8 +3,8 @@
 #include <array>
 #include <cmath>
 
-#include "export/utf8.h"
 #include "text/number_format.h"
+#include "text/utf8.h"
 
 namespace tolmar {
 

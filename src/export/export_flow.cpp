@@ -4,6 +4,8 @@
 #include <exception>
 #include <new>
 
+#include "text/utf8.h"
+
 namespace tolmar {
 
 std::string hullNameFromFile(std::string_view bareName) {
@@ -12,16 +14,7 @@ std::string hullNameFromFile(std::string_view bareName) {
   return std::string(bareName);
 }
 
-std::string nameStem(std::string_view hullName) {
-  // Counted in characters, not bytes, so an accented name is not cut in
-  // the middle of a character.
-  std::size_t i = 0;
-  for (int chars = 0; chars < 15 && i < hullName.size(); ++chars) {
-    ++i;
-    while (i < hullName.size() && (static_cast<unsigned char>(hullName[i]) & 0xC0) == 0x80) ++i;
-  }
-  return std::string(hullName.substr(0, i));
-}
+std::string nameStem(std::string_view hullName) { return std::string(utf8Prefix(hullName, 15)); }
 
 ExportOutcome runExport(ExportHost& host, HullStore& h, const ExportFile& file,
                         const std::function<void(TextSink&)>& write) {

@@ -2,13 +2,12 @@
 
 #include <cmath>
 
+#include "hull/angle_constants.h"
 #include "hull/geometrie.h"
 
 namespace tolmar {
 
 namespace {
-
-constexpr double kDegree = 57.2957795130823;  // degrees in a radian, as the end angles use it
 
 FlatPoint low(const HullStore& h, int i) { return {h.devXi(i), h.devYi(i)}; }
 FlatPoint up(const HullStore& h, int i) { return {h.devXs(i), h.devYs(i)}; }
@@ -46,14 +45,14 @@ CutOutline cutOutline(const HullStore& h, int n, int lastPoint) {
   }
   const bool bottom = n == 0;
 
-  const double dAft =
-      bottom ? h.transomThick * 1.1 / std::cos(h.transomAngle / kDegree) : h.transomThick * 1.2;
+  const double dAft = bottom ? h.transomThick * 1.1 / std::cos(h.transomAngle / kDegreesPerRadian)
+                             : h.transomThick * 1.2;
   c.up(0) = shiftPrev(mid(up(h, 1), up(h, 2)), up(h, 0), low(h, 0), dAft);
   c.low(0) = shiftNext(up(h, 0), low(h, 0), mid(low(h, 1), low(h, 2)), dAft);
 
   if (h.yFwd(1) > 0.00001) {
     const double dFwd =
-        bottom ? h.bowThick * 1.2 / std::cos(h.bowAngle / kDegree) : h.bowThick * 1.2;
+        bottom ? h.bowThick * 1.2 / std::cos(h.bowAngle / kDegreesPerRadian) : h.bowThick * 1.2;
     if (bottom) {
       c.low(81) = shiftPrev(low(h, 80), low(h, 81), low(h, 82), dFwd);
       c.up(83) = shiftNext(low(h, 82), up(h, 83), up(h, 82), dFwd);

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "export/dxf_records.h"
-#include "export/utf8.h"
 #include "hull/geometrie.h"
+#include "text/utf8.h"
 
 namespace tolmar {
 

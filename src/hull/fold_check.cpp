@@ -12,6 +12,7 @@
 #include <array>
 #include <cmath>
 
+#include "hull/angle_constants.h"
 #include "text/number_format.h"
 
 namespace tolmar {
@@ -19,7 +20,6 @@ namespace tolmar {
 namespace {
 
 constexpr int kPoints = kLastPoint + 1;
-constexpr double kPi = 3.14159265358979;
 
 enum class Width : unsigned char { some, none, negative, unknown };
 

@@ -1,18 +1,16 @@
-// Plane geometry primitives.  Each function keeps its own digits of pi.
+// Plane geometry primitives.  Each function keeps its own digits of pi
+// (hull/angle_constants.h).
 #include "hull/geometrie.h"
 
 #include <array>
 #include <cmath>
 #include <cstddef>
 
+#include "hull/angle_constants.h"
+
 namespace tolmar {
 
-namespace {
-constexpr double kPi14 = 3.14159265358979;  // tanDeg, triangleAngles, rotatePoint
-constexpr double kPi11 = 3.14159265359;     // atnDeg, polarAngle
-}  // namespace
-
-double tanDeg(double a) { return std::tan(a * kPi14 / 180); }
+double tanDeg(double a) { return std::tan(a * kPi / 180); }
 
 double tanDegWhole(int a) {
   constexpr int kSpan = 720;
@@ -25,7 +23,7 @@ double tanDegWhole(int a) {
   return table[static_cast<std::size_t>(a + kSpan)];
 }
 
-double atnDeg(double x) { return std::atan(x) * 180 / kPi11; }
+double atnDeg(double x) { return std::atan(x) * 180 / kPiShort; }
 
 void intersect2D(double x1, double y1, double x2, double y2, double x3, double y3, double x4,
                  double y4, double& xi, double& yi) {
@@ -65,24 +63,24 @@ double polarAngle(double x1, double y1, double x2, double y2) {
     return 0;
   }
   if (dx > 0) return dy >= 0 ? std::atan(dy / dx) : std::atan(dy / dx) + 6.28318530718;
-  return std::atan(dy / dx) + kPi11;
+  return std::atan(dy / dx) + kPiShort;
 }
 
 void triangleAngles(double a, double b, double c, double& A, double& B, double& C) {
   if (a + b + c < 1e-6) {
-    A = B = C = kPi14 / 3;
+    A = B = C = kPi / 3;
     return;
   }
   const double s = (a + b + c) / 2;
   const double t = s * 1e-7;
   if (s - a < t) {
-    A = kPi14;
+    A = kPi;
     B = C = 0;
   } else if (s - b < t) {
-    B = kPi14;
+    B = kPi;
     A = C = 0;
   } else if (s - c < t) {
-    C = kPi14;
+    C = kPi;
     A = B = 0;
   } else {
     A = 2 * std::atan(std::sqrt((s - b) * (s - c) / (s * (s - a))));
@@ -98,10 +96,10 @@ void rotatePoint(double px, double py, double cx, double cy, double angle, doubl
   double theta;
   if (dx == 0) {
     const double sign = dy > 0 ? 1 : (dy < 0 ? -1 : 0);
-    theta = sign * kPi14 / 2;
+    theta = sign * kPi / 2;
   } else {
     theta = std::atan(dy / dx);
-    if (dx < 0) theta += kPi14;
+    if (dx < 0) theta += kPi;
   }
   qx = cx + r * std::cos(theta + angle);
   qy = cy + r * std::sin(theta + angle);

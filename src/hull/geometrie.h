@@ -6,8 +6,8 @@
 
 namespace tolmar {
 
-double tanDeg(double a);  // tan(a degrees), pi = 3.14159265358979
-double atnDeg(double x);  // arctan(x) in degrees, pi = 3.14159265359
+double tanDeg(double a);  // tan(a degrees), with kPi
+double atnDeg(double x);  // arctan(x) in degrees, with kPiShort
 // tanDeg of a whole number of degrees, bit for bit the same value, taken
 // from a table for |a| <= 720: the chine equations ask it at every point of
 // every line.

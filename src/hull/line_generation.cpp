@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "hull/angle_constants.h"
 #include "hull/chine_equations.h"
 #include "hull/geometrie.h"
 
@@ -11,8 +12,7 @@ namespace tolmar {
 
 namespace {
 
-constexpr double kDegPerRad = 57.2957795130823;
-constexpr double kHalfPi = 3.14159265358979 / 2;
+constexpr double kHalfPi = kPi / 2;
 
 void busyStep(const BusyStep& busy, int i) {
   if (busy) busy(i);
@@ -232,7 +232,7 @@ void buildLine(HullStore& h, int n, const BusyStep& busy) {
 void buildBevel(HullStore& h, int n, const BusyStep& busy) {
   if (n < 1 || n > kMaxLine) return;
   if (n > 1 && n < h.nChines) {
-    const double a = (h.plankAngle(n) - h.plankAngle(n - 1)) / kDegPerRad;
+    const double a = (h.plankAngle(n) - h.plankAngle(n - 1)) / kDegreesPerRadian;
     for (int p = 0; p <= kLastPoint; ++p) {
       busyStep(busy, p);
       h.bevelAngle(n, p) = a;
@@ -257,13 +257,13 @@ void buildBevel(HullStore& h, int n, const BusyStep& busy) {
     const double z = bottomZ(h, x, y);
     if (h.edgeY(1, p) - y != 0) g = std::atan((h.edgeZ(1, p) - z) / (h.edgeY(1, p) - y));
   };
-  double g = h.plankAngle(0) / kDegPerRad;
+  double g = h.plankAngle(0) / kDegreesPerRadian;
   localAngle(2, g);
   const bool turnsIn = h.plankAngle(2) < h.plankAngle(1);
   for (int p = 0; p <= kLastPoint; ++p) {
     busyStep(busy, p);
     localAngle(p, g);
-    h.bevelAngle(1, p) = turnsIn ? kHalfPi : h.plankAngle(1) / kDegPerRad - g;
+    h.bevelAngle(1, p) = turnsIn ? kHalfPi : h.plankAngle(1) / kDegreesPerRadian - g;
   }
 }
 

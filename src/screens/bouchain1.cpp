@@ -47,17 +47,6 @@ constexpr Caption kLabel2[] = {
     {"Forme S avant=", "Forward S shape="},
 };
 
-// Writes v back to f: white when accepted, coloured when it replaced the
-// typed value.
-void settle(ValidationLog& log, Field& f, double v, bool replaced, std::int32_t colour = kYellow) {
-  if (replaced) {
-    log.replaced(f, v, colour);
-  } else {
-    ValidationLog::accept(f);
-    showNumber(f, v);
-  }
-}
-
 // |text| or the signed text, held to the scale of any hull.
 double magnitude(const Field& f, bool& over) { return withinScale(std::abs(fieldValue(f)), over); }
 double signedValue(const Field& f, bool& over) { return withinScale(fieldValue(f), over); }
@@ -126,9 +115,9 @@ bool Bouchain1::validerBottom(HullStore& h) {
   if (!(len > 0.1)) {
     len = 0.1;
     beeped = true;
-    settle(log, Text1(0), len, true, kOrange);
+    log.settle(Text1(0), len, true, kOrange);
   } else {
-    settle(log, Text1(0), len, over);
+    log.settle(Text1(0), len, over);
   }
   h.xFwd(0) = len;
   h.xAft(0) = 0;
@@ -151,14 +140,14 @@ bool Bouchain1::validerBottom(HullStore& h) {
   }
   h.xMax(1) = (h.iMaxBeam - 1) * len / 80;
   if (!rep && plainText(h.xMax(1)) != plainText(typedXm)) log.changed(Text1(1), h.xMax(1));
-  settle(log, Text1(1), h.xMax(1), rep);
+  log.settle(Text1(1), h.xMax(1), rep);
 
   double v = magnitude(Text1(2), over);
   rep = below(v, 0.01 * h.xFwd(1)) || above(v, 0.5 * h.xFwd(1));
   if (below(v, 0.01 * h.xFwd(1))) v = 0.01 * h.xFwd(1);
   if (above(v, 0.5 * h.xFwd(1))) v = 0.5 * h.xFwd(1);
   h.yMax(1) = v;
-  settle(log, Text1(2), v, rep);
+  log.settle(Text1(2), v, rep);
 
   // The keel at the maximum beam, from the angles held before this
   // validation: their fields are read further down.
@@ -172,26 +161,26 @@ bool Bouchain1::validerBottom(HullStore& h) {
   rep = above(v, 0.991 * h.yMax(1));
   if (rep) v = 0.99 * h.yMax(1);
   h.yFwd(1) = v;
-  settle(log, Text1(3), v, rep);
+  log.settle(Text1(3), v, rep);
   text1Changed();
 
   v = signedValue(Text2(0), over);
   rep = over || below(v, 0);
   if (below(v, 0)) v = 0;
   h.zFwd(1) = v;
-  settle(log, Text2(0), v, rep);
+  log.settle(Text2(0), v, rep);
 
   v = magnitude(Text1(4), over);
   rep = above(v, h.yMax(1));
   if (rep) v = h.yMax(1);
   h.yAft(1) = v;
-  settle(log, Text1(4), v, rep);
+  log.settle(Text1(4), v, rep);
 
   v = signedValue(Text2(1), over);
   rep = over || below(v, -h.zFwd(1));
   if (below(v, -h.zFwd(1))) v = -h.zFwd(1);
   h.zAft(1) = v;
-  settle(log, Text2(1), v, rep);
+  log.settle(Text2(1), v, rep);
 
   for (int i = 5; i <= 6; ++i) {
     v = fieldValue(Text1(i));
@@ -199,7 +188,7 @@ bool Bouchain1::validerBottom(HullStore& h) {
     if (below(v, 2.1)) v = 2.1;
     if (above(v, 5)) v = 5;
     (i == 5 ? h.powerFwd : h.powerAft) = v;
-    settle(log, Text1(i), v, rep);
+    log.settle(Text1(i), v, rep);
   }
 
   // S shapes: no range, no colour, unless beyond the scale of any hull.
@@ -214,14 +203,14 @@ bool Bouchain1::validerBottom(HullStore& h) {
   }
 
   h.plankAngle(0) = angleWithin(fieldValue(Text2(3)), -20, 45, rep);
-  settle(log, Text2(3), h.plankAngle(0), rep);
+  log.settle(Text2(3), h.plankAngle(0), rep);
   h.keelAdvance = angleWithin(std::abs(fieldValue(Text2(4))), 0, 70, rep);
-  settle(log, Text2(4), h.keelAdvance, rep);
+  log.settle(Text2(4), h.keelAdvance, rep);
   h.bowAngle = angleWithin(std::abs(fieldValue(Text2(5))), 0, 60, rep);
-  settle(log, Text2(5), h.bowAngle, rep);
+  log.settle(Text2(5), h.bowAngle, rep);
   // Never positive: the transom always rakes aft.
   h.transomAngle = angleWithin(-std::abs(fieldValue(Text2(6))), -70, 0, rep);
-  settle(log, Text2(6), h.transomAngle, rep);
+  log.settle(Text2(6), h.transomAngle, rep);
 
   if (!log.ok()) return false;
 

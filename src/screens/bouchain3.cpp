@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string>
 
+#include "hull/angle_constants.h"
 #include "screens/field_number.h"
 #include "screens/geometry_backup.h"
 #include "screens/plank_widths.h"
@@ -14,8 +15,6 @@
 namespace tolmar {
 
 namespace {
-
-constexpr double kPi = 3.14159265358979;
 
 constexpr Caption kTitle{"Bordage automatique", "Automatic planking"};
 constexpr Caption kExplanation{
@@ -44,15 +43,6 @@ constexpr std::int32_t kPointsColour = rgb(255, 192, 192);
 
 // A number in a progress caption has a blank before it.
 std::string spaced(int n) { return " " + std::to_string(n); }
-
-void settle(ValidationLog& log, Field& f, double v, bool replaced) {
-  if (replaced) {
-    log.replaced(f, v);
-  } else {
-    ValidationLog::accept(f);
-    showNumber(f, v);
-  }
-}
 
 }  // namespace
 
@@ -107,7 +97,7 @@ bool Bouchain3::validerAuto(HullStore& h) {
   const bool countReplaced = count < 3 || count > 21;
   count = std::clamp(count, 3.0, 21.0);
   h.nChines = static_cast<i16>(count);
-  settle(log, Text0, h.nChines - 1, countReplaced);
+  log.settle(Text0, h.nChines - 1, countReplaced);
 
   // Only a hull of three or four lines keeps its turn-in flags.
   if (h.nChines > 4) {
@@ -131,7 +121,7 @@ bool Bouchain3::validerAuto(HullStore& h) {
     const bool low = below(v, (*z)(1) + m);
     if (low) v = (*z)(1) + m;
     (*z)(h.nChines) = v;
-    settle(log, f, v, low || over);
+    log.settle(f, v, low || over);
   }
   autoOk = log.ok();
   if (!autoOk) return false;
@@ -187,7 +177,7 @@ void Bouchain3::calcPlankStep(HullStore& h, ValidationLog& log) {
   }
   h.plankAngle(1) = static_cast<i16>(first);
   if (!rep && first != typedFirst) log.changed(Text1(0), first);
-  settle(log, Text1(0), first, rep);
+  log.settle(Text1(0), first, rep);
 
   const int t = h.nChines - 1;
   const int d = h.nChines - 2;
@@ -203,7 +193,7 @@ void Bouchain3::calcPlankStep(HullStore& h, ValidationLog& log) {
   }
   last = d * step + first;
   h.plankAngle(t) = static_cast<i16>(last);
-  settle(log, Text2(0), last, rep);
+  log.settle(Text2(0), last, rep);
   angleStep = static_cast<i16>(roundHalfEven((last - first) / d));
 }
 

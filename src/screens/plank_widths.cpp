@@ -2,11 +2,11 @@
 
 #include <cmath>
 
+#include "hull/angle_constants.h"
+
 namespace tolmar {
 
 namespace {
-
-constexpr double kPi = 3.14159265358979;
 
 // z is the station's height table: zFwd, zMax or zAft.
 double plankWidth(const HullStore& h, int k, const LineArr& z, double exponent) {

@@ -34,6 +34,15 @@ void ValidationLog::replaced(Field& f, double kept, std::int32_t colour) {
   record(f, f.text, true);
 }
 
+void ValidationLog::settle(Field& f, double v, bool wasReplaced, std::int32_t colour) {
+  if (wasReplaced) {
+    replaced(f, v, colour);
+  } else {
+    accept(f);
+    showNumber(f, v);
+  }
+}
+
 void ValidationLog::changed(const Field& f, double kept) { record(f, plainText(kept), false); }
 
 void ValidationLog::refused(Field& f, std::int32_t colour) {

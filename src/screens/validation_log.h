@@ -27,6 +27,10 @@ class ValidationLog {
   // screen stays open.
   void replaced(Field& f, double kept, std::int32_t colour = kYellow);
 
+  // The value v that the store keeps for f written back: white when it is
+  // the value typed, as replaced() when it replaced it.
+  void settle(Field& f, double v, bool wasReplaced, std::int32_t colour = kYellow);
+
   // The store keeps `kept` for f without a mark (the screen may close).
   void changed(const Field& f, double kept);
 

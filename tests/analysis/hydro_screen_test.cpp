@@ -8,6 +8,7 @@
 #include <string>
 
 #include "default_hull.h"
+#include "hull/angle_constants.h"
 #include "shape_hulls.h"
 
 namespace tolmar::analysis {
@@ -48,7 +49,7 @@ TEST(Hydro1, PitchRoundedToATenth) {
   a.s.Text1(1).text = "0.2";
   a.s.Text3(0).text = "1.26";
   calcHydro(a.s, *a.h);
-  EXPECT_DOUBLE_EQ(a.h->pitch, 1.26 * kPitchPi / 180);
+  EXPECT_DOUBLE_EQ(a.h->pitch, 1.26 * kPi / 180);
   EXPECT_EQ(a.s.Text3(0).text, "1.3");
 }
 

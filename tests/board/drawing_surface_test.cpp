@@ -100,6 +100,8 @@ struct ArrowCase {
   float steps[3][2];
 };
 
+void PrintTo(const ArrowCase& c, std::ostream* os) { *os << c.name; }
+
 class Arrows : public ::testing::TestWithParam<ArrowCase> {};
 
 TEST_P(Arrows, ThreeStepsThatCloseOnTheTip) {

@@ -15,6 +15,7 @@
 #include <string>
 
 #include "cli/cli_run.h"
+#include "regenerate.h"
 
 namespace {
 
@@ -40,8 +41,7 @@ TEST(CliHydro, DefaultHullWithItsMassBudget) {
   const CliRun r = hydro("'" + kDefaultHull + "' --mass");
   ASSERT_EQ(r.status, 0) << r.err;
   const fs::path golden = fs::path(TOLMAR_GOLDEN) / "cli_hydro_default_mass.json";
-  const char* regen = std::getenv("TOLMAR_REGENERATE");
-  if (regen && std::string(regen) == "1") std::ofstream(golden, std::ios::binary) << r.out;
+  if (tolmar::test::regenerating()) std::ofstream(golden, std::ios::binary) << r.out;
   EXPECT_EQ(r.out, slurp(golden));
 
   const json j = json::parse(r.out);

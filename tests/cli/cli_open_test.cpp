@@ -14,6 +14,7 @@
 #include <string>
 
 #include "cli/cli_run.h"
+#include "regenerate.h"
 
 namespace {
 
@@ -33,7 +34,7 @@ TEST(CliOpen, DefaultHullFileGivesTheStoreUnderItsOwnNames) {
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(r.err, "");
   const fs::path golden = fs::path(TOLMAR_GOLDEN) / "cli_open_default.json";
-  if (std::getenv("TOLMAR_REGENERATE")) std::ofstream(golden, std::ios::binary) << r.out;
+  if (tolmar::test::regenerating()) std::ofstream(golden, std::ios::binary) << r.out;
   EXPECT_EQ(r.out, slurp(golden));
 
   const json j = json::parse(r.out);

@@ -16,6 +16,7 @@
 #include <string>
 
 #include "cli/cli_run.h"
+#include "regenerate.h"
 
 namespace {
 
@@ -78,7 +79,7 @@ void expectTables(const json& d) {
 
 void expectGolden(const std::string& text, const std::string& name) {
   const fs::path golden = fs::path(TOLMAR_GOLDEN) / name;
-  if (std::getenv("TOLMAR_REGENERATE")) {
+  if (tolmar::test::regenerating()) {
     std::ofstream(golden, std::ios::binary) << text;
     return;
   }

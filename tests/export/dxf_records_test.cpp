@@ -11,9 +11,12 @@ namespace tolmar {
 namespace {
 
 struct NumberCase {
+  const char* name;  // of the test
   double x;
   const char* text;
 };
+
+void PrintTo(const NumberCase& c, std::ostream* os) { *os << c.name; }
 
 class DxfNumber : public testing::TestWithParam<NumberCase> {};
 
@@ -23,15 +26,20 @@ TEST_P(DxfNumber, HasSignColumnFourDecimalsAndTrailingBlank) {
 
 INSTANTIATE_TEST_SUITE_P(
     Values, DxfNumber,
-    testing::Values(NumberCase{1.5, " 1.5000 "}, NumberCase{-1.5, "-1.5000 "},
-                    NumberCase{0.0, " 0.0000 "}, NumberCase{-0.0, " 0.0000 "},
-                    NumberCase{1234567.125, " 1234567.1250 "},  // no thousands separator
-                    NumberCase{0.00004, " 0.0000 "}, NumberCase{0.00006, " 0.0001 "},
-                    NumberCase{-0.00004, "-0.0000 "},  // sign column kept for a tiny negative
-                    NumberCase{2.99995000001, " 3.0000 "}, NumberCase{-12.3456789, "-12.3457 "},
-                    NumberCase{std::numeric_limits<double>::quiet_NaN(), " 0.0000 "},
-                    NumberCase{std::numeric_limits<double>::infinity(), " 0.0000 "},
-                    NumberCase{-std::numeric_limits<double>::infinity(), " 0.0000 "}));
+    testing::Values(
+        NumberCase{"Positive", 1.5, " 1.5000 "}, NumberCase{"Negative", -1.5, "-1.5000 "},
+        NumberCase{"Zero", 0.0, " 0.0000 "}, NumberCase{"NegativeZero", -0.0, " 0.0000 "},
+        // no thousands separator
+        NumberCase{"Millions", 1234567.125, " 1234567.1250 "},
+        NumberCase{"RoundsDown", 0.00004, " 0.0000 "}, NumberCase{"RoundsUp", 0.00006, " 0.0001 "},
+        // sign column kept for a tiny negative
+        NumberCase{"TinyNegative", -0.00004, "-0.0000 "},
+        NumberCase{"CarriesIntoUnits", 2.99995000001, " 3.0000 "},
+        NumberCase{"NegativeRounded", -12.3456789, "-12.3457 "},
+        NumberCase{"NaN", std::numeric_limits<double>::quiet_NaN(), " 0.0000 "},
+        NumberCase{"Infinity", std::numeric_limits<double>::infinity(), " 0.0000 "},
+        NumberCase{"MinusInfinity", -std::numeric_limits<double>::infinity(), " 0.0000 "}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(DxfNumber, HugeValueStaysOnOneFiniteLine) {
   const std::string s = dxfNumber(1e300);

@@ -138,9 +138,12 @@ TEST_F(ExportFlow, FullDiskLeavesNoPartialFile) {
 }
 
 struct NameCase {
+  const char* name;  // of the test
   const char* file;
   const char* hull;
 };
+
+void PrintTo(const NameCase& c, std::ostream* os) { *os << c.name; }
 
 class HullNameFromFile : public testing::TestWithParam<NameCase> {};
 
@@ -148,10 +151,12 @@ TEST_P(HullNameFromFile, CutBeforeTheFirstDotFromTheSecondCharacterOn) {
   EXPECT_EQ(hullNameFromFile(GetParam().file), GetParam().hull);
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, HullNameFromFile,
-                         testing::Values(NameCase{"BOAT.V2.DXF", "BOAT"}, NameCase{"BOAT", "BOAT"},
-                                         NameCase{".DXF", ".DXF"}, NameCase{"B.DXF", "B"},
-                                         NameCase{"..x", "..x"}, NameCase{"", ""}));
+INSTANTIATE_TEST_SUITE_P(
+    Names, HullNameFromFile,
+    testing::Values(NameCase{"TwoDots", "BOAT.V2.DXF", "BOAT"}, NameCase{"NoDot", "BOAT", "BOAT"},
+                    NameCase{"DotFirst", ".DXF", ".DXF"}, NameCase{"OneLetter", "B.DXF", "B"},
+                    NameCase{"DotsOnly", "..x", "..x"}, NameCase{"Empty", "", ""}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(NameStem, FirstFifteenCharacters) {
   EXPECT_EQ(nameStem("Tolmar"), "Tolmar");

@@ -9,6 +9,8 @@
 #include <sstream>
 #include <string>
 
+#include "regenerate.h"
+
 namespace tolmar::test {
 
 inline std::string readBytes(const std::string& path) {
@@ -20,8 +22,7 @@ inline std::string readBytes(const std::string& path) {
 
 inline void expectGolden(const std::string& name, const std::string& actual) {
   const std::string path = std::string(TOLMAR_GOLDEN) + "/export/" + name;
-  const char* regen = std::getenv("TOLMAR_REGENERATE");
-  if (regen != nullptr && std::string(regen) == "1") {
+  if (tolmar::test::regenerating()) {
     std::ofstream(path, std::ios::binary) << actual;
     return;
   }

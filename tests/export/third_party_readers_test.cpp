@@ -1,6 +1,7 @@
-// Every DXF and VRML file this program writes, read back by independent
-// readers: dxflib (DXF) and Coin3D's VRML97 reader.  They must see the same
-// polylines, vertices and layers as the file's own records say.
+// Every DXF and VRML golden file, those of the sub-folders included, read
+// back by independent readers: dxflib (DXF) and Coin3D's VRML97 reader.
+// They must see the same polylines, vertices, layers and faces as the
+// file's own records say.
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
 #include <Inventor/VRMLnodes/SoVRMLCoordinate.h>
@@ -20,6 +21,7 @@
 
 #include "dxf_text_reader.h"
 #include "golden_file.h"
+#include "vrml_text_reader.h"
 
 namespace tolmar {
 namespace {
@@ -52,7 +54,8 @@ class DxfCollector : public DL_CreationAdapter {
 
 std::vector<fs::path> goldenFiles(const std::vector<std::string>& extensions) {
   std::vector<fs::path> files;
-  for (const auto& e : fs::directory_iterator(fs::path(TOLMAR_GOLDEN) / "export")) {
+  for (const auto& e : fs::recursive_directory_iterator(fs::path(TOLMAR_GOLDEN) / "export")) {
+    if (!e.is_regular_file()) continue;
     std::string ext = e.path().extension().string();
     std::transform(ext.begin(), ext.end(), ext.begin(), ::tolower);
     if (std::find(extensions.begin(), extensions.end(), ext) != extensions.end())
@@ -65,8 +68,11 @@ std::vector<fs::path> goldenFiles(const std::vector<std::string>& extensions) {
 TEST(ThirdPartyReaders, DxflibSeesEveryPolylineAndVertex) {
   const auto files = goldenFiles({".dxf"});
   ASSERT_GE(files.size(), 3U);
+  ASSERT_TRUE(std::any_of(files.begin(), files.end(), [](const fs::path& f) {
+    return f.parent_path().filename() == "2D";
+  })) << "the pram's files in tests/golden/export/pram are read too";
   for (const auto& f : files) {
-    SCOPED_TRACE(f.filename().string());
+    SCOPED_TRACE(fs::relative(f, TOLMAR_GOLDEN).string());
     DxfCollector c;
     DL_Dxf dxf;
     ASSERT_TRUE(dxf.in(f.string(), &c));
@@ -112,9 +118,11 @@ __attribute__((no_sanitize("vptr"))) std::vector<T*> findAll(SoNode* root) {
 TEST(ThirdPartyReaders, CoinReadsTheVrmlWorld) {
   SoDB::init();
   const auto files = goldenFiles({".wrl"});
-  ASSERT_GE(files.size(), 1U);
+  ASSERT_GE(files.size(), 2U);  // the default hull's and the pram's
   for (const auto& f : files) {
-    SCOPED_TRACE(f.filename().string());
+    SCOPED_TRACE(fs::relative(f, TOLMAR_GOLDEN).string());
+    const auto own = test::readFaceSets(test::readBytes(f.string()));
+    ASSERT_GE(own.size(), 1U);  // the bottom at the least
     SoInput in;
     ASSERT_TRUE(in.openFile(f.c_str()));
     EXPECT_TRUE(in.isFileVRML2());
@@ -124,24 +132,33 @@ TEST(ThirdPartyReaders, CoinReadsTheVrmlWorld) {
     EXPECT_EQ(findAll<SoVRMLViewpoint>(root).size(), 5U);
     EXPECT_EQ(findAll<SoVRMLDirectionalLight>(root).size(), 3U);
     const auto faces = findAll<SoVRMLIndexedFaceSet>(root);
-    EXPECT_EQ(faces.size(), 5U);  // the default hull's five plates
-    for (auto* ifs : faces) {
+    ASSERT_EQ(faces.size(), own.size());  // one a plate
+    for (std::size_t n = 0; n < faces.size(); ++n) {
+      SoVRMLIndexedFaceSet* ifs = faces[n];
       auto* coord = static_cast<SoVRMLCoordinate*>(ifs->coord.getValue());
       ASSERT_NE(coord, nullptr);
-      EXPECT_EQ(coord->point.getNum(), 332);
-      EXPECT_EQ(ifs->coordIndex.getNum(), 330 * 4 + 4);
+      const int points = static_cast<int>(own[n].points.size());
+      // A strip of triangles between the two edges of the plate, and a
+      // closing quadrilateral without its -1.
+      EXPECT_EQ(coord->point.getNum(), points);
+      EXPECT_EQ(ifs->coordIndex.getNum(), (points - 2) * 4 + 4);
       EXPECT_FALSE(ifs->solid.getValue());
+      ASSERT_EQ(ifs->coordIndex.getNum(), static_cast<int>(own[n].coordIndex.size()));
       int faceCount = 0, maxIndex = -1;
       for (int i = 0; i < ifs->coordIndex.getNum(); ++i) {
         const int k = ifs->coordIndex[i];
+        EXPECT_EQ(k, own[n].coordIndex[static_cast<std::size_t>(i)]) << "index " << i;
         if (k < 0) ++faceCount;
         maxIndex = std::max(maxIndex, k);
       }
-      EXPECT_EQ(faceCount, 330);  // the closing quadrilateral has no -1
-      EXPECT_EQ(maxIndex, 331);
+      EXPECT_EQ(faceCount, points - 2);
+      EXPECT_EQ(maxIndex, points - 1);
       for (int i = 0; i < coord->point.getNum(); ++i) {
         const SbVec3f p = coord->point[i];
+        const auto& q = own[n].points[static_cast<std::size_t>(i)];
         EXPECT_TRUE(std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]));
+        for (int c = 0; c < 3; ++c)
+          EXPECT_EQ(p[c], static_cast<float>(q[static_cast<std::size_t>(c)])) << "point " << i;
       }
     }
     root->unref();

@@ -17,6 +17,7 @@
 #include "qtdraw/hull_picture.h"
 #include "qtdraw/image_surface.h"
 #include "qtdraw/paged_surface.h"
+#include "regenerate.h"
 
 using namespace tolmar;
 using tolmar::qtdraw::ImageSurface;
@@ -219,7 +220,7 @@ class QtDrawTest : public QObject {
     const QString path = dir.filePath("default_hull.png");
     QCOMPARE(qtdraw::writeHullPicture(*h, path.toStdString(), o), std::string());
     const QString golden = QStringLiteral(TOLMAR_GOLDEN "/board/default_hull.png");
-    if (qEnvironmentVariableIsSet("TOLMAR_REGENERATE")) {
+    if (tolmar::test::regenerating()) {
       QFile::remove(golden);
       QVERIFY(QFile::copy(path, golden));
     }

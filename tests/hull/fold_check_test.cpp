@@ -11,6 +11,7 @@
 #include <string>
 
 #include "../development/hull_fixture.h"
+#include "hull/angle_constants.h"
 #include "hull/stations.h"
 #include "hull_fixtures.h"
 
@@ -119,7 +120,7 @@ HullStore defaultHullWithLine3At(double y, double z) {
 TEST(FoldCheck, OneStationFoldsUnder) {
   HullStore h = testing::plankedDefaultHull();
   // Line 3 put 5 mm back down plank 2 from line 2, at 70 degrees.
-  const double a = 70 * 3.14159265358979 / 180;
+  const double a = 70 * kPi / 180;
   h = defaultHullWithLine3At(h.lineY(2, 40) - 0.005 * std::cos(a),
                              h.lineZ(2, 40) - 0.005 * std::sin(a));
   const FoldReport r = checkFolds(h);

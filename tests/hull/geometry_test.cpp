@@ -4,13 +4,15 @@
 
 #include <cmath>
 #include <cstring>
+#include <numbers>
 
+#include "hull/angle_constants.h"
 #include "hull/geometrie.h"
 
 namespace tolmar {
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
+constexpr double kTruePi = std::numbers::pi;
 
 TEST(TanDeg, ExactZeroAndFiniteAtRightAngle) {
   EXPECT_EQ(tanDeg(0), 0.0);  // a vertical plank must give k = 0 exactly
@@ -31,7 +33,7 @@ TEST(TanDeg, TableOfWholeDegreesIsBitForBitTheFunction) {
 
 TEST(AtnDeg, UsesElevenDigitPi) {
   // 45 degrees scaled by the true pi over 3.14159265359: some 300 ulps off 45.
-  EXPECT_DOUBLE_EQ(atnDeg(1), 45 * kPi / 3.14159265359);
+  EXPECT_DOUBLE_EQ(atnDeg(1), 45 * kTruePi / kPiShort);
   EXPECT_NE(atnDeg(1), 45.0);
   EXPECT_EQ(atnDeg(0), 0.0);
 }
@@ -47,9 +49,9 @@ TEST(PolarAngle, Quadrants) {
       {1, 1, 1, -3, 4.712388980385},                   // straight down, never negative
       {0, 0, 2, 0, 0},                                 // along +X
       {0, 0, 1, 1, std::atan(1.0)},                    // first quadrant
-      {0, 0, -1, 0, 3.14159265359},                    // along -X
-      {0, 0, -1, 1, std::atan(-1.0) + 3.14159265359},  // second
-      {0, 0, -1, -1, std::atan(1.0) + 3.14159265359},  // third
+      {0, 0, -1, 0, kPiShort},                         // along -X
+      {0, 0, -1, 1, std::atan(-1.0) + kPiShort},       // second
+      {0, 0, -1, -1, std::atan(1.0) + kPiShort},       // third
       {0, 0, 1, -1, std::atan(-1.0) + 6.28318530718},  // fourth
   };
   for (const auto& c : cases) {
@@ -62,48 +64,48 @@ TEST(PolarAngle, Quadrants) {
 TEST(TriangleAngles, DegenerateTriangles) {
   double A, B, C;
   triangleAngles(0, 0, 0, A, B, C);
-  EXPECT_EQ(A, 3.14159265358979 / 3);
+  EXPECT_EQ(A, kPi / 3);
   EXPECT_EQ(B, A);
   EXPECT_EQ(C, A);
 
   triangleAngles(2, 1, 1, A, B, C);  // flat: a = b + c
-  EXPECT_EQ(A, 3.14159265358979);
+  EXPECT_EQ(A, kPi);
   EXPECT_EQ(B, 0);
   EXPECT_EQ(C, 0);
 
   triangleAngles(1, 2, 1, A, B, C);
-  EXPECT_EQ(B, 3.14159265358979);
+  EXPECT_EQ(B, kPi);
   EXPECT_EQ(A + C, 0);
 
   triangleAngles(1, 1, 0, A, B, C);  // s - a and s - b both 0: the first side wins
-  EXPECT_EQ(A, 3.14159265358979);
+  EXPECT_EQ(A, kPi);
   EXPECT_EQ(B, 0);
 
   triangleAngles(5, 1, 1, A, B, C);  // a side longer than the two others
-  EXPECT_EQ(A, 3.14159265358979);
+  EXPECT_EQ(A, kPi);
   EXPECT_TRUE(std::isfinite(B) && std::isfinite(C));
 }
 
 TEST(TriangleAngles, RightAndEquilateral) {
   double A, B, C;
   triangleAngles(3, 4, 5, A, B, C);
-  EXPECT_NEAR(C, kPi / 2, 1e-12);
+  EXPECT_NEAR(C, kTruePi / 2, 1e-12);
   EXPECT_NEAR(A, std::asin(0.6), 1e-12);
-  EXPECT_NEAR(A + B + C, kPi, 1e-12);
+  EXPECT_NEAR(A + B + C, kTruePi, 1e-12);
   triangleAngles(2, 2, 2, A, B, C);
-  EXPECT_NEAR(A, kPi / 3, 1e-12);
-  EXPECT_NEAR(B, kPi / 3, 1e-12);
+  EXPECT_NEAR(A, kTruePi / 3, 1e-12);
+  EXPECT_NEAR(B, kTruePi / 3, 1e-12);
 }
 
 TEST(RotatePoint, AboutCentre) {
   double qx, qy;
-  rotatePoint(3, 1, 2, 1, kPi / 2, qx, qy);
+  rotatePoint(3, 1, 2, 1, kTruePi / 2, qx, qy);
   EXPECT_NEAR(qx, 2, 1e-12);
   EXPECT_NEAR(qy, 2, 1e-12);
   rotatePoint(1, 1, 2, 1, 0, qx, qy);  // left of the centre: pi is added
   EXPECT_NEAR(qx, 1, 1e-12);
   EXPECT_NEAR(qy, 1, 1e-12);
-  rotatePoint(2, 0, 2, 1, kPi / 2, qx, qy);  // straight below: theta = -pi/2
+  rotatePoint(2, 0, 2, 1, kTruePi / 2, qx, qy);  // straight below: theta = -pi/2
   EXPECT_NEAR(qx, 3, 1e-12);
   EXPECT_NEAR(qy, 1, 1e-12);
   rotatePoint(2, 1, 2, 1, 1.0, qx, qy);  // the centre itself stays put

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "hull/default_hull.h"
+#include "regenerate.h"
 
 namespace tolmar {
 namespace {
@@ -102,7 +103,7 @@ TEST(HullFileWriter, DefaultHullMatchesGoldenFile) {
   EXPECT_EQ(makeDataTag(*h), "&NNNNNRRRC05");
   const std::string text = written(*h);
   const fs::path golden = fs::path(TOLMAR_GOLDEN) / "default_hull.D50";
-  if (std::getenv("TOLMAR_REGENERATE")) std::ofstream(golden, std::ios::binary) << text;
+  if (tolmar::test::regenerating()) std::ofstream(golden, std::ios::binary) << text;
   EXPECT_EQ(text, slurp(golden));
   EXPECT_EQ(text.substr(0, 39), "TOLMAR2005 - Tolmar2008\r\n&NNNNNRRRC05\r\n");
   EXPECT_NE(text.find("\r\nLINE  0\r\n 12\r\n 6\r\n"), std::string::npos);

@@ -6,6 +6,7 @@
 
 #include <cmath>
 
+#include "hull/angle_constants.h"
 #include "hull/chine_equations.h"
 #include "hull/default_hull.h"
 #include "hull/geometrie.h"
@@ -72,7 +73,6 @@ inline HullStore plankedDefaultHull() {
 // planks of even width (stem shape 0) up to the given sheer heights.
 inline void placeAutoPlanks(HullStore& h, int planks, int firstAngle, int step, double zFwdSheer,
                             double zMaxSheer, double zAftSheer) {
-  constexpr double kPi = 3.14159265358979;
   const int top = planks + 1;
   h.nChines = static_cast<i16>(top);
   if (top > 4) {

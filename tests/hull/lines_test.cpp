@@ -6,6 +6,7 @@
 #include <cmath>
 #include <vector>
 
+#include "hull/angle_constants.h"
 #include "hull/chine_equations.h"
 #include "hull/default_hull.h"
 #include "hull/geometrie.h"
@@ -17,8 +18,6 @@ namespace {
 
 using testing::plankedDefaultHull;
 using testing::validatedDefaultHull;
-
-constexpr double kRad = 57.2957795130823;
 
 TEST(CrossingX, LineAndDegenerateCases) {
   EXPECT_DOUBLE_EQ(crossingX(0, 1, 2, 3, -2), 2);
@@ -235,21 +234,22 @@ TEST(BuildLine, StationsHeldInsideTheLineEnds) {
 TEST(Bevel, RowsByLine) {
   const HullStore h = plankedDefaultHull();
   for (int p = 0; p <= 82; ++p) {
-    EXPECT_EQ(h.bevelAngle(2, p), (70 - 45) / kRad);
-    EXPECT_EQ(h.bevelAngle(4, p), (90 - 85) / kRad);
-    EXPECT_EQ(h.bevelAngle(5, p), 3.14159265358979 / 2);  // the sheer line
+    EXPECT_EQ(h.bevelAngle(2, p), (70 - 45) / kDegreesPerRadian);
+    EXPECT_EQ(h.bevelAngle(4, p), (90 - 85) / kDegreesPerRadian);
+    EXPECT_EQ(h.bevelAngle(5, p), kPi / 2);  // the sheer line
   }
   // Aft of the maximum beam the bottom lies at the deadrise.
-  for (int p = 0; p <= h.iMaxBeam; ++p) EXPECT_NEAR(h.bevelAngle(1, p), (45 - 12) / kRad, 1e-12);
+  for (int p = 0; p <= h.iMaxBeam; ++p)
+    EXPECT_NEAR(h.bevelAngle(1, p), (45 - 12) / kDegreesPerRadian, 1e-12);
   EXPECT_GT(h.bevelAngle(1, 70), 0);
-  EXPECT_LT(h.bevelAngle(1, 70), (45 - 12) / kRad);  // the bottom twists up forward
+  EXPECT_LT(h.bevelAngle(1, 70), (45 - 12) / kDegreesPerRadian);  // the bottom twists up forward
 }
 
 TEST(Bevel, FirstLineWhenTheSecondPlankTurnsIn) {
   HullStore h = plankedDefaultHull();
   h.plankAngle(2) = 40;
   buildBevel(h, 1);
-  for (int p = 0; p <= 82; ++p) EXPECT_EQ(h.bevelAngle(1, p), 3.14159265358979 / 2);
+  for (int p = 0; p <= 82; ++p) EXPECT_EQ(h.bevelAngle(1, p), kPi / 2);
 }
 
 TEST(UpperLines, TwoLinesBuildOnlyLineTwo) {
@@ -260,7 +260,7 @@ TEST(UpperLines, TwoLinesBuildOnlyLineTwo) {
   buildUpperLines(h);
   EXPECT_NE(h.lineZ(2, 82), before.lineZ(2, 82));
   EXPECT_EQ(h.lineX(3, 40), before.lineX(3, 40));  // slots above stay stale
-  EXPECT_EQ(h.bevelAngle(2, 10), 3.14159265358979 / 2);
+  EXPECT_EQ(h.bevelAngle(2, 10), kPi / 2);
 }
 
 TEST(UpperLines, TurnsTheBusyPointer) {

@@ -18,6 +18,8 @@
 #include "board/recording_surface.h"
 #include "development/hull_fixture.h"
 #include "printing/print_job.h"
+#include "regenerate.h"
+#include "text/utf8.h"
 
 namespace tolmar::printtest {
 
@@ -89,10 +91,7 @@ inline std::string textGrid(const Page& page) {
     auto col = static_cast<std::size_t>(std::lround(c.x1 / RecordingSurface::kCharWidth));
     std::vector<std::string>& line = rows[row];
     for (std::size_t i = 0; i < c.text.size(); ++col) {
-      std::size_t len = 1;
-      while (i + len < c.text.size() &&
-             (static_cast<unsigned char>(c.text[i + len]) & 0xC0) == 0x80)
-        ++len;
+      const std::size_t len = utf8Prefix(std::string_view(c.text).substr(i), 1).size();
       if (line.size() <= col) line.resize(col + 1, " ");
       line[col] = c.text.substr(i, len);
       i += len;
@@ -111,8 +110,7 @@ inline std::string textGrid(const Page& page) {
 // TOLMAR_REGENERATE=1 is set.
 inline void expectGolden(const std::string& name, const std::string& actual) {
   const std::string path = std::string(TOLMAR_GOLDEN) + "/printing/" + name;
-  const char* regen = std::getenv("TOLMAR_REGENERATE");
-  if (regen != nullptr && std::string(regen) == "1") {
+  if (tolmar::test::regenerating()) {
     std::ofstream(path, std::ios::binary) << actual;
     return;
   }

@@ -7,6 +7,7 @@
 
 #include <cmath>
 
+#include "hull/angle_constants.h"
 #include "hull/chine_equations.h"
 #include "hull/geometrie.h"
 #include "hull/line_generation.h"
@@ -172,8 +173,8 @@ TEST(Bouchain2, DefaultHullLines) {
     EXPECT_GE(h.xFwd(n), 6);
     EXPECT_NEAR(chineY(h, n, h.xFwd(n)), 0, 1e-3) << n;  // pointed stem
   }
-  EXPECT_DOUBLE_EQ(h.bevelAngle(2, 40), 25 / 57.2957795130823);
-  EXPECT_DOUBLE_EQ(h.bevelAngle(5, 40), 3.14159265358979 / 2);
+  EXPECT_DOUBLE_EQ(h.bevelAngle(2, 40), 25 / kDegreesPerRadian);
+  EXPECT_DOUBLE_EQ(h.bevelAngle(5, 40), kPi / 2);
   EXPECT_TRUE(storeFinite(h));
   EXPECT_TRUE(o.s.replaced.empty());
 }
@@ -183,7 +184,7 @@ TEST(Bouchain2, TwoLinesBuildOneLine) {
   o.s.clickOptShear(o.h, 0);
   ASSERT_TRUE(o.s.validerPlanks(o.h));
   EXPECT_EQ(o.h.nChines, 2);
-  EXPECT_DOUBLE_EQ(o.h.bevelAngle(2, 0), 3.14159265358979 / 2);  // the sheer line
+  EXPECT_DOUBLE_EQ(o.h.bevelAngle(2, 0), kPi / 2);  // the sheer line
   EXPECT_TRUE(storeFinite(o.h));
 }
 

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <utility>
 
+#include "hull/angle_constants.h"
 #include "screen_fixtures.h"
 #include "screens/field_number.h"
 #include "screens/plank_widths.h"
@@ -18,8 +19,6 @@ using testing::badTexts;
 using testing::bottomValidated;
 using testing::findReplacement;
 using testing::storeFinite;
-
-constexpr double kPi = 3.14159265358979;
 
 struct Opened {
   HullStore h = bottomValidated();

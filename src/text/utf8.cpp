@@ -1,6 +1,31 @@
-#include "export/utf8.h"
+#include "text/utf8.h"
 
 namespace tolmar {
+
+namespace {
+
+bool continues(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+
+// The byte after the character that starts at i.
+std::size_t nextCharacter(std::string_view s, std::size_t i) {
+  ++i;
+  while (i < s.size() && continues(s[i])) ++i;
+  return i;
+}
+
+}  // namespace
+
+std::size_t utf8Length(std::string_view s) {
+  std::size_t n = 0;
+  for (std::size_t i = 0; i < s.size(); i = nextCharacter(s, i)) ++n;
+  return n;
+}
+
+std::string_view utf8Prefix(std::string_view s, std::size_t n) {
+  std::size_t i = 0;
+  for (std::size_t chars = 0; chars < n && i < s.size(); ++chars) i = nextCharacter(s, i);
+  return s.substr(0, i);
+}
 
 std::vector<char32_t> utf8CodePoints(std::string_view s) {
   std::vector<char32_t> out;
