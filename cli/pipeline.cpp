@@ -245,6 +245,17 @@ bool Session::validate(std::string_view name, Validate valider, const Replacemen
     }
     if (ok) return true;
   }
+  // Values the screen refuses for what they make of the hull: say what.
+  const auto refusal = std::find_if(replaced.begin(), replaced.end(),
+                                    [](const Replacement& rep) { return !rep.why.empty(); });
+  if (refusal != replaced.end()) {
+    std::string why =
+        std::string(name) + " refuses these values: " + refusal->why + ".  In orange:";
+    for (const Replacement& rep : replaced) {
+      if (rep.why == refusal->why) why += " " + rep.control + "=" + rep.kept;
+    }
+    return fail(2, why);
+  }
   std::string why = std::string(name) + " does not pass after " + std::to_string(kMaxValidations) +
                     " validations; the last one still changed:";
   for (const Replacement& rep : replaced) why += "\n  " + describe(rep);
