@@ -17,12 +17,16 @@
 #include <string>
 
 #include "board/board_model.h"
+#include "board/step_host.h"
+#include "board/step_runner.h"
 #include "cli_session_args.h"
 #include "command.h"
 #include "io/safe_write.h"
 #include "pipeline.h"
+#include "printing/paper_setup.h"
 #include "printing/print_menu.h"
 #include "qtdraw/paged_surface.h"
+#include "unseen_picture.h"
 
 namespace tolmar::cli {
 namespace {
@@ -31,7 +35,8 @@ using board::BoardControl;
 
 constexpr const char* kUsage =
     "HULL.D50 data|drawing|develop|station|all OUT.pdf [--paper A4|A3|Letter] [--landscape]\n"
-    "      [--station X] [--lang fr|en] [--auto] [--set SCREEN.CONTROL=VALUE]...";
+    "      [--margin-mm 5] [--calibrate X,Y] [--station X] [--lang fr|en] [--auto]\n"
+    "      [--set SCREEN.CONTROL=VALUE]...";
 
 struct PrintArgs {
   BoardControl entry = BoardControl::fmenu_P_Data;
@@ -40,6 +45,8 @@ struct PrintArgs {
   bool landscape = false;
   std::optional<std::string> station;
   std::optional<int> langue;
+  double marginMm = kDefaultPdfMarginMm;
+  PrintCalibration calibration;
 };
 
 int usage(const char* why) {
@@ -85,6 +92,14 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
       const std::string* v = value();
       if (!v || (*v != "fr" && *v != "en")) return usage("--lang takes fr or en");
       p.langue = *v == "fr" ? 0 : 1;
+    } else if (a == "--margin-mm") {
+      const std::string* v = value();
+      if (!v || !parsePaperNumber(*v, p.marginMm))
+        return usage("--margin-mm needs a number of millimetres");
+    } else if (a == "--calibrate") {
+      const std::string* v = value();
+      if (!v || !parseCalibration(*v, p.calibration))
+        return usage("--calibrate needs the X and Y factors, as 1.002,0.998");
     } else if (a == "--set") {
       sessionArgs.push_back(a);
       if (const std::string* v = value()) sessionArgs.push_back(*v);
@@ -101,6 +116,15 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
   p.out = words[2];
   sessionArgs.insert(sessionArgs.begin(), words[0]);
   return parseSessionArgs(sessionArgs, true, session) ? 0 : 2;
+}
+
+// The margin and the calibration checked against the paper; empty when
+// both are accepted.
+std::string paperError(const PrintArgs& p, int langue) {
+  for (const double f : {p.calibration.x, p.calibration.y})
+    if (std::string why = calibrationError(f, langue); !why.empty()) return why;
+  const QSizeF mm = QPageSize(p.paper).size(QPageSize::Millimeter);
+  return marginError(p.marginMm, mm.width(), mm.height(), langue);
 }
 
 // Qt's notes about the offscreen platform are no concern of the command's
@@ -121,35 +145,44 @@ std::unique_ptr<QGuiApplication> guiApplication() {
   return std::make_unique<QGuiApplication>(argc, argv);
 }
 
-// The board's steps of a print entry: Draw station first for the station
-// sheet, then the document.
-void runEntry(PrintJob& job, board::BoardState& b, const board::Actions& steps) {
-  for (const board::Action& a : steps) {
-    if (a.what != board::Do::Run) continue;
-    switch (a.control) {
+// The steps of a print entry, run by the board's runner: Draw station's
+// part on the board first for the station sheet, then the document.
+class PrintSteps : public board::StepHost {
+ public:
+  PrintSteps(PrintJob& job, board::BoardState& b) : job_(job), b_(b) {}
+
+  board::BoardState& board() override { return b_; }
+  DrawingSurface& picture() override { return picture_; }
+  void command(BoardControl c) override {
+    switch (c) {
       case BoardControl::DessCouple:
-        board::drawStationState(b, job.h);
+        board::drawStationState(b_, job_.h);
         break;
       case BoardControl::fmenu_P_Data:
-        fmenu_P_Data(job);
+        fmenu_P_Data(job_);
         break;
       case BoardControl::fmenu_P_Dessin:
-        fmenu_P_Dessin(job, b.stepIndex);
+        fmenu_P_Dessin(job_, b_.stepIndex);
         break;
       case BoardControl::fmenu_P_Develop:
-        fmenu_P_Develop(job, b.stepIndex);
+        fmenu_P_Develop(job_, b_.stepIndex);
         break;
       case BoardControl::fmenu_P_Station:
-        fmenu_P_Station(job);
+        fmenu_P_Station(job_);
         break;
       case BoardControl::fmenu_P_Tout:
-        fmenu_P_Tout(job, b.stepIndex);
+        fmenu_P_Tout(job_, b_.stepIndex);
         break;
       default:
         break;
     }
   }
-}
+
+ private:
+  PrintJob& job_;
+  board::BoardState& b_;
+  UnseenPicture picture_;
+};
 
 int run(const Args& args) {
   PrintArgs p;
@@ -169,6 +202,10 @@ int run(const Args& args) {
   }
   if (p.langue) h->langue = static_cast<i16>(*p.langue);
   if (p.station) r.board.text1 = *p.station;
+  if (const std::string why = paperError(p, h->langue); !why.empty()) {
+    std::fprintf(stderr, "tolmar-cli print: %s\n", why.c_str());
+    return 2;
+  }
   const board::Actions steps = board::press(r.board, *h, p.entry);
   if (steps.empty()) {
     std::fprintf(stderr, "tolmar-cli print: %s is disabled on the board\n",
@@ -195,14 +232,19 @@ int run(const Args& args) {
     writer.setCreator(QStringLiteral("tolmar-cli"));
     writer.setPageSize(QPageSize(p.paper));
     writer.setPageOrientation(p.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-    qtdraw::PagedSurface surface(writer);
+    qtdraw::PaperOptions paper;
+    paper.marginMm = p.marginMm;
+    paper.calibration = p.calibration;
+    paper.langue = h->langue;
+    qtdraw::PagedSurface surface(writer, paper);
     if (!surface.active()) {
       std::fprintf(stderr, "tolmar-cli print: cannot start a PDF document in %s\n", p.out.c_str());
       return 1;
     }
     PrintHost host;
     PrintJob job{surface, *h, host};
-    runEntry(job, r.board, steps);
+    PrintSteps entry(job, r.board);
+    board::StepRunner(entry, *h).perform(steps);
   }
   file.write(std::string_view(pdf.constData(), static_cast<std::size_t>(pdf.size())));
   if (const io::WriteResult w = file.commit(); !w.ok()) {
@@ -218,7 +260,10 @@ Register reg({"print", kUsage,
               "  of the print menu into a PDF: data (the data sheet), drawing (profile, plan\n"
               "  and sections), develop (the plates), station (the sheet of the station\n"
               "  nearest to --station X, else the board's), all (every sheet and table).\n"
-              "  A4 portrait unless told; texts in English unless --lang fr.  Status 1: a\n"
+              "  A4 portrait unless told; texts in English unless --lang fr.  The page\n"
+              "  lies inside a margin of --margin-mm (5 mm) at 568 twips to the centimetre;\n"
+              "  --calibrate gives a printer's stretch measured on the 200 mm bar of\n"
+              "  every page (measured / 200, X then Y, each 0.9 to 1.1).  Status 1: a\n"
               "  file cannot be read or written; 2: a screen does not pass or the command\n"
               "  line is wrong.",
               &run});

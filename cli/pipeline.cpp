@@ -4,20 +4,20 @@
 #include <charconv>
 #include <type_traits>
 
-#include "board/board_layout.h"
+#include "board/step_host.h"
+#include "board/step_runner.h"
 #include "hull/hull_file.h"
 #include "hull/hull_file_check.h"
-#include "hull/stations.h"
 #include "screens/bouchain1.h"
 #include "screens/bouchain2.h"
 #include "screens/bouchain3.h"
 #include "screens/menu2.h"
+#include "unseen_picture.h"
 
 namespace tolmar::cli {
 
 namespace {
 
-using board::Do;
 using board::ScreenId;
 
 bool knownScreen(std::string_view s) {
@@ -74,21 +74,33 @@ Target find(Bouchain3& b, const SetValue& s) {
 }
 
 // One run of the windows: the start screen, the board and the hull
-// screens, driven by the steps that their events return.
-class Session {
+// screens, their events' steps run by the runner the windows use.  A hull
+// screen shown modal is passed at once (its --set values typed, Valider
+// pressed); what only a window does is left undone.
+class Session : private board::StepHost {
  public:
-  Session(HullStore& h, const PipelineOptions& o) : h_(h), o_(o) {}
+  Session(HullStore& h, const PipelineOptions& o) : h_(h), o_(o), runner_(*this, h) {}
 
   PipelineResult run();
 
  private:
-  bool perform(const board::Actions& actions);
+  board::BoardState& board() override { return r_.board; }
+  DrawingSurface& picture() override { return picture_; }
+  void load(ScreenId s) override {
+    if (s == ScreenId::dessin) r_.board = board::loadBoard(h_);
+  }
+  void showModal(ScreenId s) override { runScreen(s); }
+
+  // False once a step has failed: the run stops there.
+  bool perform(const board::Actions& actions) {
+    runner_.perform(actions);
+    return r_.status == 0;
+  }
   bool runScreen(ScreenId s);
   template <typename Screen, typename Click>
   bool typeSets(Screen& screen, std::string_view name, Click click);
   template <typename Validate>
   bool validate(std::string_view name, Validate valider, const Replacements& replaced);
-  void redraw();
   bool fail(int status, std::string why) {
     r_.status = status;
     r_.error = std::move(why);
@@ -101,6 +113,8 @@ class Session {
   Bouchain1 b1_;
   Bouchain2 b2_;
   Bouchain3 b3_;
+  UnseenPicture picture_;
+  board::StepRunner runner_;
 };
 
 PipelineResult Session::run() {
@@ -153,28 +167,6 @@ PipelineResult Session::run() {
   }
   perform(pressed);
   return r_;
-}
-
-bool Session::perform(const board::Actions& actions) {
-  for (const board::Action& a : actions) {
-    switch (a.what) {
-      case Do::Load:
-        if (a.screen == ScreenId::dessin) r_.board = board::loadBoard(h_);
-        break;
-      case Do::ShowModal:
-        if (!runScreen(a.screen)) return false;
-        break;
-      case Do::Focus:
-        if (a.control == board::BoardControl::dessine) redraw();
-        break;
-      case Do::AfterModal:
-        board::afterModal(r_.board, a.control);
-        break;
-      default:
-        break;
-    }
-  }
-  return true;
 }
 
 bool Session::runScreen(ScreenId s) {
@@ -261,15 +253,6 @@ bool Session::validate(std::string_view name, Validate valider, const Replacemen
   for (const Replacement& rep : replaced) why += "\n  " + describe(rep);
   if (replaced.empty()) why += " nothing it could name";
   return fail(2, why);
-}
-
-void Session::redraw() {
-  board::drawingStarted(r_.board);
-  const board::Rect plan = board::loadLayout(kDisplayWidth, kDisplayHeight).plan1;
-  scaleViews(h_, plan.width, plan.height, r_.board.stepIndex);
-  buildAllStations(h_);
-  board::drawingEnded(r_.board);
-  board::afterRedraw(r_.board, h_);
 }
 
 }  // namespace

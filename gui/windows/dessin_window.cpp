@@ -10,7 +10,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 
-#include "board/views.h"
 #include "windows/busy_cursor.h"
 #include "windows/field_widgets.h"
 #include "windows/plan_widget.h"
@@ -178,19 +177,7 @@ void DessinWindow::focusControl(BoardControl c) {
   w->setFocus(Qt::OtherFocusReason);
 }
 
-void DessinWindow::dessineAction(const std::function<void()>& draw) {
-  BusyCursor busy;
-  HullStore& h = s_.store();
-  board::drawingStarted(b_);
-  if (draw) {
-    draw();
-  } else {
-    dessine(plan_->surface(), h, b_.stepIndex);
-  }
-  board::drawingEnded(b_);
-  plan_->update();
-  s_.perform({board::afterRedraw(b_, h)});
-}
+void DessinWindow::dessineAction(const std::function<void()>& draw) { s_.redraw(draw); }
 
 BoardHooks DessinWindow::hooks() {
   BoardHooks k;
@@ -238,6 +225,12 @@ void DessinWindow::resizeEvent(QResizeEvent* e) {
 }
 
 void DessinWindow::closeEvent(QCloseEvent* e) {
+  // Once the program has ended, the application closes its windows on the
+  // way out: the board goes without a way back to the start screen.
+  if (s_.ended()) {
+    e->accept();
+    return;
+  }
   e->ignore();
   s_.perform(board::closeBoard());
 }

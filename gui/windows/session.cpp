@@ -1,6 +1,7 @@
 #include "windows/session.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QWidget>
 
 #include "screens/menu2.h"
@@ -11,29 +12,22 @@
 #include "windows/busy_cursor.h"
 #include "windows/dessin_window.h"
 #include "windows/menu2_window.h"
+#include "windows/plan_widget.h"
 #include "windows/twips.h"
 
 namespace tolmar::gui {
 
-using board::Action;
 using board::Actions;
 using board::BoardControl;
 using board::Do;
 using board::ScreenId;
 
-namespace {
-
-bool isHullScreen(ScreenId s) {
-  return s == ScreenId::bouchain1 || s == ScreenId::bouchain2 || s == ScreenId::bouchain3;
-}
-
-}  // namespace
-
 void DeleteLater::operator()(QObject* o) const {
   if (o) o->deleteLater();
 }
 
-Session::Session() : beep([] { QApplication::beep(); }), h_(std::make_unique<HullStore>()) {}
+Session::Session()
+    : beep([] { QApplication::beep(); }), h_(std::make_unique<HullStore>()), runner_(*this, *h_) {}
 
 Session::~Session() {
   // No event loop runs after this: the windows go at once.
@@ -55,26 +49,6 @@ void Session::start() {
 
 void Session::create() { perform(screens::createClick(dessin().state(), *h_)); }
 
-void Session::perform(const Actions& actions) {
-  ++depth_;
-  for (std::size_t i = 0; i < actions.size(); ++i) {
-    if (actions[i].what == Do::ShowModal && isHullScreen(actions[i].screen)) {
-      showModal(actions[i].screen,
-                Actions(actions.begin() + static_cast<std::ptrdiff_t>(i) + 1, actions.end()));
-      break;
-    }
-    run(actions[i]);
-  }
-  --depth_;
-  if (depth_ > 0) return;
-  while (!due_.empty()) {
-    const Actions next = std::move(due_.front());
-    due_.erase(due_.begin());
-    perform(next);
-  }
-  syncWindows();
-}
-
 void Session::syncWindows() {
   if (menu2_) menu2_->syncFromModel();
   if (dessin_) dessin_->syncFromModel();
@@ -83,90 +57,77 @@ void Session::syncWindows() {
   if (bouchain3_) bouchain3_->syncFromModel();
 }
 
-void Session::showModal(ScreenId s, Actions rest) {
-  HullScreenWindow* w = nullptr;
-  switch (s) {
-    case ScreenId::bouchain1:
-      w = &bouchain1();
-      break;
-    case ScreenId::bouchain2:
-      w = &bouchain2();
-      break;
-    case ScreenId::bouchain3:
-      w = &bouchain3();
-      break;
-    default:
-      return;
+board::BoardState& Session::board() { return dessin().state(); }
+
+DrawingSurface& Session::picture() { return dessin().plan().surface(); }
+
+void Session::load(ScreenId s) { window(s, true); }
+
+void Session::show(ScreenId s) {
+  if (QWidget* w = window(s, true)) {
+    w->show();
+    w->raise();
+    w->activateWindow();
+  } else {
+    showBoardScreen(&dessin(), *h_, dessin().state(), s, dessin().hooks());
   }
-  afterModal_[s] = std::move(rest);
-  w->showModalScreen();
 }
 
-void Session::run(const Action& a) {
-  switch (a.what) {
-    case Do::Load:
-      window(a.screen, true);
+void Session::showModal(ScreenId s) {
+  switch (s) {
+    case ScreenId::bouchain1:
+      bouchain1().showModalScreen();
       break;
-    case Do::Show:
-      if (QWidget* w = window(a.screen, true)) {
-        w->show();
-        w->raise();
-        w->activateWindow();
-      } else {
-        showBoardScreen(&dessin(), *h_, dessin().state(), a.screen, dessin().hooks());
-      }
+    case ScreenId::bouchain2:
+      bouchain2().showModalScreen();
       break;
-    case Do::ShowModal:
+    case ScreenId::bouchain3:
+      bouchain3().showModalScreen();
+      break;
+    default:
       // overlap1: modal in its own right, it returns when the screen ends.
-      showBoardScreen(&dessin(), *h_, dessin().state(), a.screen, dessin().hooks());
+      showBoardScreen(&dessin(), *h_, dessin().state(), s, dessin().hooks());
       break;
-    case Do::Hide: {
-      if (QWidget* w = window(a.screen, false)) w->hide();
-      const auto waiting = afterModal_.find(a.screen);
-      if (waiting != afterModal_.end()) {
-        due_.push_back(std::move(waiting->second));
-        afterModal_.erase(waiting);
-      }
-      break;
-    }
-    case Do::Unload:
-      if (a.screen == ScreenId::dessin && dessin_) {
-        dessin_->hide();
-        dessin_.reset();
-      }
-      break;
-    case Do::Focus:
-      dessin().focusControl(a.control);
-      break;
-    case Do::AfterModal:
-      board::afterModal(dessin().state(), a.control);
-      break;
-    case Do::ClearPicture:
-      dessin().clearPicture();
-      break;
-    case Do::Refresh:
-      if (QWidget* w = window(a.screen, false)) w->update();
-      break;
-    case Do::Beep:
-      if (beep) beep();
-      break;
-    case Do::SaveHullFile:
-      runOnBoard(BoardControl::fmenu_S_Data);
-      break;
-    case Do::OpenHullFile:
-      runOnBoard(BoardControl::fmenu_Open);
-      break;
-    case Do::Run:
-      if (a.control == BoardControl::dessine) {
-        dessin().dessineAction();
-      } else {
-        runOnBoard(a.control);
-      }
-      break;
-    case Do::EndProgram:
-      ended_ = true;
-      emit programEnded();
-      break;
+  }
+}
+
+void Session::hide(ScreenId s) {
+  if (QWidget* w = window(s, false)) w->hide();
+}
+
+void Session::unload(ScreenId s) {
+  if (s == ScreenId::dessin && dessin_) {
+    dessin_->hide();
+    dessin_.reset();
+  }
+}
+
+void Session::focus(BoardControl c) { dessin().focusControl(c); }
+
+void Session::refresh(ScreenId s) {
+  if (QWidget* w = window(s, false)) w->update();
+}
+
+void Session::pictureChanged() {
+  if (dessin_) dessin_->plan().update();
+}
+
+void Session::bell() {
+  if (beep) beep();
+}
+
+void Session::command(BoardControl c) { runOnBoard(c); }
+
+void Session::endProgram() {
+  ended_ = true;
+  emit programEnded();
+}
+
+void Session::busy(bool on) {
+  if (on) {
+    QApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
+  } else {
+    QApplication::restoreOverrideCursor();
   }
 }
 

@@ -1,8 +1,6 @@
-// One run of the program: the hull store, the windows, and the runner of
-// the steps that the screens' events return (board_action.h).  A modal
-// show opens the screen and keeps the steps after it; they run once that
-// screen hides, after the event that hid it has run to its end, as a
-// blocking modal show would let them.
+// One run of the program: the hull store, the windows, and the host of the
+// core's runner of the steps that the screens' events return
+// (board/step_runner.h): what only a window can do, it does here.
 #pragma once
 
 #include <QObject>
@@ -11,6 +9,8 @@
 #include <memory>
 
 #include "board/board_action.h"
+#include "board/step_host.h"
+#include "board/step_runner.h"
 #include "hull/hull_store.h"
 
 namespace tolmar::gui {
@@ -27,7 +27,7 @@ struct DeleteLater {
   void operator()(QObject* o) const;
 };
 
-class Session : public QObject {
+class Session : public QObject, private board::StepHost {
   Q_OBJECT
  public:
   Session();
@@ -41,8 +41,13 @@ class Session : public QObject {
   void create();
 
   // Runs the steps in order, then brings every window up to its model.
-  void perform(const board::Actions& actions);
+  // Once the program has ended, no step runs and no window comes back.
+  void perform(const board::Actions& actions) {
+    if (!ended_) runner_.perform(actions);
+  }
   void syncWindows();
+  // The board's redraw: `draw` in place of the full redraw when given.
+  void redraw(const std::function<void()>& draw = {}) { runner_.redraw(draw); }
 
   HullStore& store() { return *h_; }
   // The beep of a refused value; a test may count them instead.
@@ -63,8 +68,23 @@ class Session : public QObject {
   void programEnded();
 
  private:
-  void run(const board::Action& a);
-  void showModal(board::ScreenId s, board::Actions rest);
+  // What the steps ask of the windows.
+  board::BoardState& board() override;
+  DrawingSurface& picture() override;
+  void load(board::ScreenId s) override;
+  void show(board::ScreenId s) override;
+  void showModal(board::ScreenId s) override;
+  void hide(board::ScreenId s) override;
+  void unload(board::ScreenId s) override;
+  void focus(board::BoardControl c) override;
+  void refresh(board::ScreenId s) override;
+  void pictureChanged() override;
+  void bell() override;
+  void command(board::BoardControl c) override;
+  void endProgram() override;
+  void busy(bool on) override;
+  void stepsDone() override { syncWindows(); }
+
   QWidget* window(board::ScreenId s, bool load);
   // The board's commands: files, exports, prints, develop, station.
   void runOnBoard(board::BoardControl c);
@@ -75,9 +95,7 @@ class Session : public QObject {
   std::unique_ptr<Bouchain1Window, DeleteLater> bouchain1_;
   std::unique_ptr<Bouchain2Window, DeleteLater> bouchain2_;
   std::unique_ptr<Bouchain3Window, DeleteLater> bouchain3_;
-  std::map<board::ScreenId, board::Actions> afterModal_;  // steps waiting for a modal screen
-  std::vector<board::Actions> due_;                       // of screens hidden meanwhile
-  int depth_ = 0;
+  board::StepRunner runner_;
   bool ended_ = false;
 };
 
