@@ -141,6 +141,7 @@ PipelineResult Session::run() {
       return r_;
     }
     board::openNamed(r_.board, h_);
+    board::checkHull(r_.board, h_);
     if (!perform(board::openBeforeRebuild(r_.board)) || !perform(board::openAfterRebuild(r_.board)))
       return r_;
   } else if (!perform(screens::createClick(r_.board, h_))) {
@@ -166,6 +167,7 @@ PipelineResult Session::run() {
     return r_;
   }
   perform(pressed);
+  r_.langue = h_.langue;
   return r_;
 }
 
