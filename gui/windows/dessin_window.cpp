@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "board/fold_drawing.h"
+#include "devcheck/checked_drawing.h"
 #include "windows/busy_cursor.h"
 #include "windows/field_widgets.h"
 #include "windows/hull_view_window.h"
@@ -160,6 +161,27 @@ void DessinWindow::buildAddedEntries() {
     view3dWindow_->raise();
     view3dWindow_->activateWindow();
   });
+  devCheck_ = build_->addAction(QString());
+  devCheck_->setObjectName("fmenu_B_DevCheck");
+  connect(devCheck_, &QAction::triggered, this, [this] {
+    if (!devCheck_->isEnabled()) return;
+    if (!devCheckWindow_) {
+      // The patterns in their verdicts' colours over the picture; Developer
+      // draws the board's own figure again.
+      devCheckWindow_ = new DevCheckWindow(
+          this, s_.store(),
+          [this](const std::vector<DevelopedPlate>& plates, const devcheck::CheckReport& r) {
+            devcheck::drawCheckedPlates(plan_->surface(), s_.store(), plates, r);
+            plan_->update();
+          });
+      devCheckWindow_->setAttribute(Qt::WA_DeleteOnClose);
+    } else {
+      devCheckWindow_->refresh();
+    }
+    devCheckWindow_->show();
+    devCheckWindow_->raise();
+    devCheckWindow_->activateWindow();
+  });
 }
 
 QPushButton* DessinWindow::button(BoardControl c) const {
@@ -219,8 +241,7 @@ void DessinWindow::syncFromModel() {
 
   // The planks' lines are drawn: a redraw after the planking, which also
   // enables the VRML export.
-  const bool drawn =
-      b_.stepIndex >= 1 && b_.isEnabled(C::fmenu_S_VRML) && s_.store().nChines >= 1;
+  const bool drawn = b_.stepIndex >= 1 && b_.isEnabled(C::fmenu_S_VRML) && s_.store().nChines >= 1;
   const bool fr = captionLangue_ == 0;
   build_->setTitle(fr ? "Construction" : "Build");
   view3d_->setText(QString::fromUtf8(fr ? "Vue 3D…" : "3-D view…"));
@@ -230,6 +251,8 @@ void DessinWindow::syncFromModel() {
     model3d_->setEnabled(drawn);
   }
   if (view3dWindow_ && drawn) view3dWindow_->follow();
+  devCheck_->setText(QString::fromUtf8(fr ? "Contrôle du développement…" : "Development check…"));
+  devCheck_->setEnabled(b_.isEnabled(C::Developer));
 
   const QString folds = qtText(b_.folds.message(s_.store().langue));
   if (folds != foldLine_->text()) {

@@ -13,6 +13,7 @@
 #include "board/board_layout.h"
 #include "board/board_model.h"
 #include "windows/board_commands.h"
+#include "windows/devcheck_window.h"
 #include "windows/hull_view_window.h"
 
 class QAction;
@@ -49,6 +50,10 @@ class DessinWindow : public QMainWindow {
   QAction* view3dAction() const { return view3d_; }
   QAction* model3dAction() const { return model3d_; }
   HullViewWindow* view3d() const { return view3dWindow_.data(); }
+  // "Development check…" in the Build menu, enabled with Developer; its
+  // window while open.
+  QAction* devCheckAction() const { return devCheck_; }
+  DevCheckWindow* devCheck() const { return devCheckWindow_.data(); }
 
   // A click on a button or menu entry, or its shortcut.
   void press(board::BoardControl c);
@@ -91,6 +96,8 @@ class DessinWindow : public QMainWindow {
   QAction* view3d_ = nullptr;
   QAction* model3d_ = nullptr;
   QPointer<HullViewWindow> view3dWindow_;
+  QAction* devCheck_ = nullptr;
+  QPointer<DevCheckWindow> devCheckWindow_;
 };
 
 }  // namespace tolmar::gui
