@@ -113,6 +113,7 @@ void DessinWindow::buildMenu() {
     }
     actions_[board::index(e.control)] = a;
   }
+  buildMenu_ = new BuildMenu(menuBar(), this, s_.store());
 }
 
 QPushButton* DessinWindow::button(BoardControl c) const {
@@ -151,6 +152,7 @@ void DessinWindow::syncFromModel() {
     }
   }
   for (BoardControl c : kButtons) button(c)->setText(captionOf(c, captionLangue_));
+  buildMenu_->sync(b_, captionLangue_);
   label1_->setText(captionOf(C::Label1, captionLangue_));
   label2_->setText(captionOf(C::Label2, captionLangue_));
   if (text1_->text() != qtText(b_.text1)) text1_->setText(qtText(b_.text1));
