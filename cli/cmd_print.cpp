@@ -23,6 +23,7 @@
 #include "command.h"
 #include "io/safe_write.h"
 #include "pipeline.h"
+#include "printing/paper_setup.h"
 #include "printing/print_menu.h"
 #include "qtdraw/paged_surface.h"
 #include "unseen_picture.h"
@@ -34,7 +35,8 @@ using board::BoardControl;
 
 constexpr const char* kUsage =
     "HULL.D50 data|drawing|develop|station|all OUT.pdf [--paper A4|A3|Letter] [--landscape]\n"
-    "      [--station X] [--lang fr|en] [--auto] [--set SCREEN.CONTROL=VALUE]...";
+    "      [--margin-mm 5] [--calibrate X,Y] [--station X] [--lang fr|en] [--auto]\n"
+    "      [--set SCREEN.CONTROL=VALUE]...";
 
 struct PrintArgs {
   BoardControl entry = BoardControl::fmenu_P_Data;
@@ -43,6 +45,8 @@ struct PrintArgs {
   bool landscape = false;
   std::optional<std::string> station;
   std::optional<int> langue;
+  double marginMm = kDefaultPdfMarginMm;
+  PrintCalibration calibration;
 };
 
 int usage(const char* why) {
@@ -88,6 +92,14 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
       const std::string* v = value();
       if (!v || (*v != "fr" && *v != "en")) return usage("--lang takes fr or en");
       p.langue = *v == "fr" ? 0 : 1;
+    } else if (a == "--margin-mm") {
+      const std::string* v = value();
+      if (!v || !parsePaperNumber(*v, p.marginMm))
+        return usage("--margin-mm needs a number of millimetres");
+    } else if (a == "--calibrate") {
+      const std::string* v = value();
+      if (!v || !parseCalibration(*v, p.calibration))
+        return usage("--calibrate needs the X and Y factors, as 1.002,0.998");
     } else if (a == "--set") {
       sessionArgs.push_back(a);
       if (const std::string* v = value()) sessionArgs.push_back(*v);
@@ -104,6 +116,15 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
   p.out = words[2];
   sessionArgs.insert(sessionArgs.begin(), words[0]);
   return parseSessionArgs(sessionArgs, true, session) ? 0 : 2;
+}
+
+// The margin and the calibration checked against the paper; empty when
+// both are accepted.
+std::string paperError(const PrintArgs& p, int langue) {
+  for (const double f : {p.calibration.x, p.calibration.y})
+    if (std::string why = calibrationError(f, langue); !why.empty()) return why;
+  const QSizeF mm = QPageSize(p.paper).size(QPageSize::Millimeter);
+  return marginError(p.marginMm, mm.width(), mm.height(), langue);
 }
 
 // Qt's notes about the offscreen platform are no concern of the command's
@@ -181,6 +202,10 @@ int run(const Args& args) {
   }
   if (p.langue) h->langue = static_cast<i16>(*p.langue);
   if (p.station) r.board.text1 = *p.station;
+  if (const std::string why = paperError(p, h->langue); !why.empty()) {
+    std::fprintf(stderr, "tolmar-cli print: %s\n", why.c_str());
+    return 2;
+  }
   const board::Actions steps = board::press(r.board, *h, p.entry);
   if (steps.empty()) {
     std::fprintf(stderr, "tolmar-cli print: %s is disabled on the board\n",
@@ -207,7 +232,11 @@ int run(const Args& args) {
     writer.setCreator(QStringLiteral("tolmar-cli"));
     writer.setPageSize(QPageSize(p.paper));
     writer.setPageOrientation(p.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-    qtdraw::PagedSurface surface(writer);
+    qtdraw::PaperOptions paper;
+    paper.marginMm = p.marginMm;
+    paper.calibration = p.calibration;
+    paper.langue = h->langue;
+    qtdraw::PagedSurface surface(writer, paper);
     if (!surface.active()) {
       std::fprintf(stderr, "tolmar-cli print: cannot start a PDF document in %s\n", p.out.c_str());
       return 1;
@@ -231,7 +260,10 @@ Register reg({"print", kUsage,
               "  of the print menu into a PDF: data (the data sheet), drawing (profile, plan\n"
               "  and sections), develop (the plates), station (the sheet of the station\n"
               "  nearest to --station X, else the board's), all (every sheet and table).\n"
-              "  A4 portrait unless told; texts in English unless --lang fr.  Status 1: a\n"
+              "  A4 portrait unless told; texts in English unless --lang fr.  The page\n"
+              "  lies inside a margin of --margin-mm (5 mm) at 568 twips to the centimetre;\n"
+              "  --calibrate gives a printer's stretch measured on the 200 mm bar of\n"
+              "  every page (measured / 200, X then Y, each 0.9 to 1.1).  Status 1: a\n"
               "  file cannot be read or written; 2: a screen does not pass or the command\n"
               "  line is wrong.",
               &run});

@@ -58,16 +58,25 @@ bool clipSegment(QPointF& a, QPointF& b, const QRectF& r) {
 }
 
 void PainterSurface::attach(QPainter* painter, QPaintDevice* device) {
-  painter_ = painter;
-  device_ = device;
-  scale_ = DeviceScale::of(*device);
+  attach(painter, device, DeviceScale::of(*device),
+         QRectF(0, 0, device->width(), device->height()));
   clip_ = QRectF(-kClipMargin, -kClipMargin, device->width() + 2 * kClipMargin,
                  device->height() + 2 * kClipMargin);
-  setOuterSize(static_cast<float>(scale_.twipsFromDotsX(device->width())),
-               static_cast<float>(scale_.twipsFromDotsY(device->height())));
+}
+
+void PainterSurface::attach(QPainter* painter, QPaintDevice* device, DeviceScale scale,
+                            const QRectF& area) {
+  painter_ = painter;
+  device_ = device;
+  scale_ = scale;
+  clip_ = area;
+  setOuterSize(static_cast<float>(scale_.twipsFromDotsX(area.width())),
+               static_cast<float>(scale_.twipsFromDotsY(area.height())));
   pen_.reset();
   mode_.reset();
 }
+
+bool PainterSurface::fitText(QPointF, QString&, const QFontMetricsF&) const { return true; }
 
 QPointF PainterSurface::toDots(float x, float y) const { return scale_.toDots(twipX(x), twipY(y)); }
 
@@ -187,9 +196,11 @@ void PainterSurface::render(const DrawCall& call) {
       const QRectF reach = clip_.adjusted(-10000, -10000, 10000, 10000);
       if (!reach.contains(a)) break;
       const QFont f = currentFont();
-      painter_->setFont(f);
       const QFontMetricsF fm(f, device_);
-      painter_->drawText(QPointF(a.x(), a.y() + fm.ascent()), QString::fromStdString(call.text));
+      QString text = QString::fromStdString(call.text);
+      if (!fitText(a, text, fm)) break;
+      painter_->setFont(f);
+      painter_->drawText(QPointF(a.x(), a.y() + fm.ascent()), text);
       break;
     }
     default:

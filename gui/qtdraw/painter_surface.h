@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QPen>
 #include <optional>
@@ -25,8 +26,13 @@ class PainterSurface : public DrawingSurface {
   static constexpr double kMaxCircleDots = 100000;
 
  protected:
-  // `painter` is active on `device` and outlives every drawing call.
+  // `painter` is active on `device` and outlives every drawing call.  The
+  // device's own resolution, everything within its rectangle widened by
+  // kClipMargin.
   void attach(QPainter* painter, QPaintDevice* device);
+  // The same with a given scale, and `area` (dots) as the surface's whole
+  // extent: its size is Width x Height and nothing is drawn outside it.
+  void attach(QPainter* painter, QPaintDevice* device, DeviceScale scale, const QRectF& area);
   void detach() { painter_ = nullptr; }
   void render(const DrawCall& call) override;
 
@@ -40,6 +46,9 @@ class PainterSurface : public DrawingSurface {
   virtual void endDoc() {}
   // Exclusive or is honoured only on raster devices.
   virtual bool rasterOps() const { return false; }
+  // A text about to be written with its top left corner at `topLeft`
+  // (dots): false to leave it out; it may be shortened.  All are kept here.
+  virtual bool fitText(QPointF topLeft, QString& text, const QFontMetricsF& fm) const;
 
   QPainter* painter_ = nullptr;
   QPaintDevice* device_ = nullptr;

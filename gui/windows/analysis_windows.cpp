@@ -5,9 +5,13 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
+#include <algorithm>
+#include <cmath>
 
+#include "analysis/pair_placement.h"
 #include "board/recording_surface.h"
 #include "windows/hydro1_window.h"
 #include "windows/mass1_window.h"
@@ -94,9 +98,13 @@ void AnalysisWindows::run(const std::function<void()>& event) {
 void AnalysisWindows::showWindows() {
   const bool hydroOn = screens_.hydro.visible, massOn = screens_.mass.visible;
   if (hydroOn != hydro_->isVisible() || massOn != mass_->isVisible()) {
-    if (!placed_ && (hydroOn || massOn)) place();
+    const bool first = !placed_ && (hydroOn || massOn);
+    if (first) place();
     hydro_->setVisible(hydroOn);
     mass_->setVisible(massOn);
+    // Shown, the windows know their styled sizes and the window manager
+    // its frame: they are placed again on that.
+    if (first) QTimer::singleShot(0, this, &AnalysisWindows::place);
   }
 }
 
@@ -117,13 +125,31 @@ void AnalysisWindows::place() {
   if (!screen) return;
   const Twips t(screen->logicalDotsPerInchX(), screen->logicalDotsPerInchY());
   const QRect display = screen->availableGeometry();
-  hydro_->adjustSize();
-  mass_->adjustSize();
-  const auto hp = analysis::hydroPlace(t.twipsX(display.width()), t.twipsX(hydro_->width()));
-  const auto mp = analysis::massPlace(t.twipsX(display.width()), t.twipsY(display.height()),
-                                      t.twipsX(mass_->width()), t.twipsY(mass_->height()));
-  hydro_->move(display.topLeft() + t.pixelAt(hp.left, hp.top));
-  mass_->move(display.topLeft() + t.pixelAt(mp.left, mp.top));
+  // The frame around a window: as the platform tells it for mass1, or as
+  // the board has it once shown (a window manager tells it only then).
+  mass_->winId();
+  const QMargins m = mass_->windowHandle() ? mass_->windowHandle()->frameMargins() : QMargins();
+  QSize frame(m.left() + m.right(), m.top() + m.bottom());
+  if (board_ && board_->isVisible())
+    frame = frame.expandedTo(board_->frameGeometry().size() - board_->geometry().size());
+  // The natural sizes (adjustSize would hold a window to 2/3 of the display).
+  hydro_->resize(hydro_->sizeHint().expandedTo(hydro_->minimumSizeHint()));
+  mass_->resize(mass_->sizeHint().expandedTo(mass_->minimumSizeHint()));
+  const QSize hydro = hydro_->size() + frame, mass = mass_->size() + frame;
+  const analysis::PairPlacement p = analysis::placePair(
+      t.twipsX(display.width()), t.twipsY(display.height()), t.twipsX(hydro.width()),
+      t.twipsY(hydro.height()), t.twipsX(mass.width()), t.twipsY(mass.height()));
+  hydro_->move(display.topLeft() + t.pixelAt(p.hydro.left, p.hydro.top));
+  const QPoint massAt = display.topLeft() + t.pixelAt(p.mass.left, p.mass.top);
+  const int massHeight = std::min(mass.height(), t.y(p.mass.height)) - frame.height();
+  if (massHeight < mass_->height()) {
+    // Shortened: the rows scroll, and the bar takes its room beside them,
+    // kept on the display.
+    const int width = mass_->width() + mass_->scrollBarWidth();
+    mass_->resize(width, massHeight);
+  }
+  const int massLeft = std::min(massAt.x(), display.right() + 1 - mass_->width() - frame.width());
+  mass_->move(std::max(display.left(), massLeft), massAt.y());
 }
 
 void AnalysisWindows::quit() {

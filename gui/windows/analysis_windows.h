@@ -31,7 +31,9 @@ class AnalysisWindows : public QObject {
 
   // Hmenu: hydro1 shown and active, then mass1 shown and active; placed at
   // their first showing as the screens say (hydro1 200 twips under the top
-  // of the display, mass1 200 above its bottom, both centred across).
+  // of the display, mass1 200 above its bottom, both centred across) where
+  // the display allows, and otherwise both whole on it and mass1 off
+  // hydro1 (analysis/pair_placement.h).
   void open();
 
   // The board's picture for cdQuit, and what to do once it is drawn on.

@@ -227,6 +227,12 @@ void DessinWindow::resizeEvent(QResizeEvent* e) {
 }
 
 void DessinWindow::closeEvent(QCloseEvent* e) {
+  // Once the program has ended, the application closes its windows on the
+  // way out: the board goes without a way back to the start screen.
+  if (s_.ended()) {
+    e->accept();
+    return;
+  }
   e->ignore();
   s_.perform(board::closeBoard());
 }

@@ -75,6 +75,13 @@ std::optional<SaveChoice> CmDialog1::askOpenFile(const SaveRequest& request) {
   return ask(DialogKind::open, request);
 }
 
+std::optional<SaveChoice> CmDialog1::askSaveFileOnce(const SaveRequest& request) {
+  const QString kept = title_;
+  const auto choice = ask(DialogKind::save, request);
+  title_ = kept;
+  return choice;
+}
+
 std::optional<SaveChoice> CmDialog1::ask(DialogKind kind, const SaveRequest& request) {
   if (request.title) title_ = qs(*request.title);
   if (request.initialFolder) {
@@ -101,10 +108,18 @@ std::optional<SaveChoice> CmDialog1::ask(DialogKind kind, const SaveRequest& req
       }
     }
   } else {
-    if (!dialog_) dialog_ = new QFileDialog(parent_);
+    // Until a title is given, the dialog keeps the platform's own; a dialog
+    // that showed another one is made anew to get it back.
+    if (dialog_ && title_.isEmpty() && !platformTitle_) delete dialog_.data();
+    if (!dialog_) {
+      dialog_ = new QFileDialog(parent_);
+      platformTitle_ = true;
+    }
     QFileDialog& d = *dialog_;
-    // Until a title is given, the dialog keeps the platform's own.
-    if (!title_.isEmpty()) d.setWindowTitle(title_);
+    if (!title_.isEmpty()) {
+      d.setWindowTitle(title_);
+      platformTitle_ = false;
+    }
     d.setAcceptMode(kind == DialogKind::save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     d.setFileMode(kind == DialogKind::save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     d.setOption(QFileDialog::DontConfirmOverwrite, true);

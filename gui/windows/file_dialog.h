@@ -61,6 +61,9 @@ class CmDialog1 : public ExportHost {
   // a file; no answer means cancelled.
   std::optional<SaveChoice> askSaveFile(const SaveRequest& request) override;
   std::optional<SaveChoice> askOpenFile(const SaveRequest& request);
+  // A save dialog whose title holds for itself alone (the PDF file of a
+  // print): the next dialog has the title that the one before it left.
+  std::optional<SaveChoice> askSaveFileOnce(const SaveRequest& request);
   void showError(std::string_view title, std::string_view message) override;
   void setBusy(bool busy) override;
   void showHullName(std::string_view name) override;
@@ -93,6 +96,7 @@ class CmDialog1 : public ExportHost {
   QWidget* parent_;
   QPointer<QFileDialog> dialog_;  // made at first use, kept for the program's life
   QString title_;
+  bool platformTitle_ = true;  // dialog_ shows the platform's own title
   QString folder_;
   bool busy_ = false;
   bool unattended_ = false;

@@ -4,9 +4,14 @@
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "windows/field_widgets.h"
 
@@ -18,12 +23,30 @@ namespace {
 constexpr int kGroupRows[4][6] = {
     {1, 2, 3, 4, -1, -1}, {5, 6, 7, 8, -1, -1}, {21, 22, 23, 24, -1, -1}, {13, 14, 15, 16, 17, 18}};
 
+// A scroll area whose natural size is its whole content: the window comes
+// up showing every row, and scrolls only when it is made shorter.
+class WholeScrollArea : public QScrollArea {
+ public:
+  using QScrollArea::QScrollArea;
+  QSize sizeHint() const override {
+    const int f = 2 * frameWidth();
+    return widget() ? widget()->sizeHint() + QSize(f, f) : QScrollArea::sizeHint();
+  }
+};
+
 }  // namespace
 
 Mass1Window::Mass1Window(analysis::Mass1& model, QWidget* parent)
     : QWidget(parent, Qt::Window), model_(model) {
   setObjectName("mass1");
-  auto* top = new QVBoxLayout(this);
+  auto* outer = new QVBoxLayout(this);
+  scroll_ = new WholeScrollArea(this);
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setWidgetResizable(true);
+  scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  auto* rows = new QWidget(scroll_);
+  auto* top = new QVBoxLayout(rows);
+  top->setContentsMargins(0, 0, 0, 0);
   label1_ = new QLabel(this);
   top->addWidget(label1_);
 
@@ -70,11 +93,15 @@ Mass1Window::Mass1Window(analysis::Mass1& model, QWidget* parent)
   grid->setRowMinimumHeight(line++, 8);
   addRow(line, 0);
   top->addLayout(grid);
+  top->addStretch();
+  scroll_->setWidget(rows);
+  outer->addWidget(scroll_);
 
+  // Calcul1 stays in sight under the rows.
   calcul1_ = new QPushButton(this);
   calcul1_->setObjectName("Calcul1");
   calcul1_->setAutoDefault(false);
-  top->addWidget(calcul1_);
+  outer->addWidget(calcul1_);
   connect(calcul1_, &QPushButton::clicked, this, [this] {
     if (onCalcul) onCalcul();
   });
@@ -101,7 +128,12 @@ QLineEdit* Mass1Window::text(int column, int row) {
 void Mass1Window::showModel() {
   setWindowTitle(qtText(model_.title.caption));
   label1_->setText(qtText(model_.Label1.caption));
-  for (int c = 0; c < 4; ++c) showCaption(label2_[c], model_.Label2(c + 1));
+  for (int c = 0; c < 4; ++c) {
+    showCaption(label2_[c], model_.Label2(c + 1));
+    // A scroll area lays its rows out without height for width: the
+    // wrapped heading asks for its lines itself.
+    label2_[c]->setMinimumHeight(label2_[c]->heightForWidth(label2_[c]->width()));
+  }
   const Field* frames[4] = {&model_.Frame1, &model_.Frame2, &model_.Frame3, &model_.Frame4};
   for (int g = 0; g < 4; ++g) frame_[g]->setText(qtText(frames[g]->caption));
   for (int r = 0; r <= analysis::kLastMassRow; ++r) {
@@ -127,6 +159,18 @@ bool Mass1Window::eventFilter(QObject* watched, QEvent* event) {
   }
   return QWidget::eventFilter(watched, event);
 }
+
+QSize Mass1Window::sizeHint() const {
+  // All rows in sight: the layout alone would let word-wrapped headings
+  // trade height for width and leave the rows a little short.
+  const QLayout* l = layout();
+  const QMargins m = l->contentsMargins();
+  const QSize rows = scroll_->sizeHint(), button = calcul1_->sizeHint();
+  return {std::max(rows.width(), button.width()) + m.left() + m.right(),
+          rows.height() + l->spacing() + button.height() + m.top() + m.bottom()};
+}
+
+int Mass1Window::scrollBarWidth() const { return scroll_->verticalScrollBar()->sizeHint().width(); }
 
 void Mass1Window::closeEvent(QCloseEvent* event) {
   if (onClose && isVisible()) onClose();

@@ -1,7 +1,8 @@
 // The window of mass1: the table of densities, areas, masses and centres
 // by row in its four groups, the totals and Calcul1, shown from the Mass1
-// model.  Green boxes take input; pink ones are results and read-only.  The
-// window only reports its events; AnalysisWindows runs them on the model.
+// model.  Green boxes take input; pink ones are results and read-only.  On
+// a short display the rows scroll above Calcul1.  The window only reports
+// its events; AnalysisWindows runs them on the model.
 #pragma once
 
 #include <QWidget>
@@ -12,6 +13,7 @@
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QScrollArea;
 
 namespace tolmar::gui {
 
@@ -29,6 +31,10 @@ class Mass1Window : public QWidget {
   // box in that column.
   QLineEdit* text(int column, int row);
   QPushButton* calcul1() { return calcul1_; }
+  // The rows scroll when the window is shorter than its natural height.
+  QScrollArea* rows() { return scroll_; }
+  int scrollBarWidth() const;
+  QSize sizeHint() const override;  // every row in sight
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -44,6 +50,7 @@ class Mass1Window : public QWidget {
   QLabel* label1_;
   QLabel* frame_[4];  // group captions, one grid for all rows so that columns align
   QPushButton* calcul1_;
+  QScrollArea* scroll_;
 };
 
 }  // namespace tolmar::gui

@@ -66,11 +66,15 @@ void Overlap1Window::build() {
       showModel();
     });
     // The advice of the bottom under its two fields, that of the sides
-    // under theirs.
+    // under theirs, each with the room of its lines (two for the bottom,
+    // one for the sides) from the start, so that the fields stay still.
     if (k == 1 || k == 3) {
-      label8_[k / 2] = new QLabel(this);
-      label8_[k / 2]->setObjectName(QString("Label8(%1)").arg(k / 2));
-      grid->addWidget(label8_[k / 2], row++, 0, 1, 3);
+      QLabel* advice = label8_[k / 2] = new QLabel(this);
+      advice->setObjectName(QString("Label8(%1)").arg(k / 2));
+      const int lines = k == 1 ? 2 : 1;
+      advice->setFixedHeight(lines * advice->fontMetrics().lineSpacing() + 2 * advice->margin());
+      advice->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+      grid->addWidget(advice, row++, 0, 1, 3);
     }
   }
   top->addLayout(grid);

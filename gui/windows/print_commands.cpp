@@ -26,7 +26,7 @@ class BoardPrintHost : public PrintHost {
 bool printEntry(BoardWindows& w, HullStore& h, board::BoardState& b, board::BoardControl c) {
   using C = board::BoardControl;
   if (c == C::fmenu_PSetup) {
-    w.printers().setup();
+    w.printers().setup(h.langue);
     return true;
   }
   BoardPrintHost host(w.files());

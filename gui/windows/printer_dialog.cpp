@@ -11,6 +11,7 @@
 #include "io/safe_write.h"
 #include "qtdraw/paged_surface.h"
 #include "windows/file_dialog.h"
+#include "windows/print_calibration.h"
 
 namespace tolmar::gui {
 
@@ -48,6 +49,7 @@ PrintOutcome fail(CmDialog1& files, const std::string& why) {
 }
 
 PrintOutcome printToPdf(CmDialog1& files, QPrinter& printer, const QString& path,
+                        const qtdraw::PaperOptions& paper,
                         const std::function<void(DrawingSurface&)>& draw) {
   std::string why;
   {
@@ -63,7 +65,7 @@ PrintOutcome printToPdf(CmDialog1& files, QPrinter& printer, const QString& path
       QPdfWriter writer(&buffer);
       writer.setCreator("Tolmar2008");
       writer.setPageLayout(printer.pageLayout());
-      qtdraw::PagedSurface surface(writer);
+      qtdraw::PagedSurface surface(writer, paper);
       if (!surface.active()) return fail(files, "The PDF file cannot be started");
       if (!drawPages(surface, draw, why)) return fail(files, why);
       if (surface.active()) surface.EndDoc();
@@ -74,11 +76,11 @@ PrintOutcome printToPdf(CmDialog1& files, QPrinter& printer, const QString& path
   return PrintOutcome::printed;
 }
 
-PrintOutcome printToPrinter(CmDialog1& files, QPrinter& printer,
+PrintOutcome printToPrinter(CmDialog1& files, QPrinter& printer, const qtdraw::PaperOptions& paper,
                             const std::function<void(DrawingSurface&)>& draw) {
   std::string why;
   Busy busy(files);
-  qtdraw::PagedSurface surface(printer);
+  qtdraw::PagedSurface surface(printer, paper);
   if (!surface.active())
     return fail(files, "The printer " + printer.printerName().toStdString() + " is not ready");
   if (!drawPages(surface, draw, why)) return fail(files, why);
@@ -104,28 +106,40 @@ bool CmDialog2::toPdf() const {
   return printer_ && printer_->outputFormat() == QPrinter::PdfFormat;
 }
 
-bool CmDialog2::setup() {
+bool CmDialog2::setup(int langue) {
   if (unattended_) return false;
   QPrintDialog dialog(&printer(), parent_);
-  return dialog.exec() == QDialog::Accepted;
+  auto* tab = new CalibrationTab(langue);
+  dialog.setOptionTabs({tab});
+  if (dialog.exec() != QDialog::Accepted) return false;
+  savePaperSettings(tab->value());
+  return true;
 }
 
 PrintOutcome printDocument(CmDialog1& files, CmDialog2& printers, const HullStore& h,
                            const std::function<void(DrawingSurface&)>& draw) {
   QPrinter& printer = printers.printer();
-  if (!printers.toPdf()) return printToPrinter(files, printer, draw);
+  const PaperSettings settings = loadPaperSettings();
+  const bool pdf = printers.toPdf();
+  const qtdraw::PaperOptions paper = paperOptions(settings, pdf, h.langue);
+  if (pdf) {
+    const QSizeF mm = printer.pageLayout().fullRect(QPageLayout::Millimeter).size();
+    const std::string why = marginError(settings.pdfMarginMm, mm.width(), mm.height(), h.langue);
+    if (!why.empty()) return fail(files, why);
+  }
+  if (!pdf) return printToPrinter(files, printer, paper, draw);
 
   // A file named in the printer dialog is used as it is; otherwise asked.
   QString path;
   if (!printers.pdfOnly && printer.outputFormat() == QPrinter::PdfFormat)
     path = printer.outputFileName();
   if (path.isEmpty()) {
-    const auto choice =
-        files.askSaveFile({std::string(kPdfTitle), kPdfFilter, h.hullName + ".PDF", std::nullopt});
+    const auto choice = files.askSaveFileOnce(
+        {std::string(kPdfTitle), kPdfFilter, h.hullName + ".PDF", std::nullopt});
     if (!choice) return PrintOutcome::cancelled;
     path = QString::fromStdString(choice->path);
   }
-  return printToPdf(files, printer, path, draw);
+  return printToPdf(files, printer, path, paper, draw);
 }
 
 }  // namespace tolmar::gui

@@ -29,8 +29,10 @@ class CmDialog2 {
   CmDialog2& operator=(const CmDialog2&) = delete;
 
   // fmenu_PSetup: the platform's printer dialog; an accepted choice is the
-  // printer of every later document.  Unattended, nothing is shown.
-  bool setup();
+  // printer of every later document.  Its "Calibration" tab, in langue,
+  // holds the printer's factors and the PDF margin, remembered between
+  // runs.  Unattended, nothing is shown.
+  bool setup(int langue);
 
   QPrinter& printer();
 
@@ -54,7 +56,9 @@ enum class PrintOutcome { printed, cancelled, failed };
 // name hullName ".PDF").  A cancelled file dialog prints nothing; a printer
 // that refuses, a file that cannot be written or an exception from `draw`
 // show the system's text under kPrintErrorTitle and leave any former file
-// as it was.  The busy pointer stands while the pages are drawn.
+// as it was.  The pages lie inside the printer's margins, or the remembered
+// PDF margin, drawn to the remembered calibration.  The busy pointer stands while the pages are
+// drawn.
 PrintOutcome printDocument(CmDialog1& files, CmDialog2& printers, const HullStore& h,
                            const std::function<void(DrawingSurface&)>& draw);
 

@@ -41,7 +41,10 @@ class Session : public QObject, private board::StepHost {
   void create();
 
   // Runs the steps in order, then brings every window up to its model.
-  void perform(const board::Actions& actions) { runner_.perform(actions); }
+  // Once the program has ended, no step runs and no window comes back.
+  void perform(const board::Actions& actions) {
+    if (!ended_) runner_.perform(actions);
+  }
   void syncWindows();
   // The board's redraw: `draw` in place of the full redraw when given.
   void redraw(const std::function<void()>& draw = {}) { runner_.redraw(draw); }

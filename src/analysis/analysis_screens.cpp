@@ -5,14 +5,6 @@
 
 namespace tolmar::analysis {
 
-ScreenPlace hydroPlace(double displayWidth, double width) {
-  return {(displayWidth - width) / 2, 200};
-}
-
-ScreenPlace massPlace(double displayWidth, double displayHeight, double width, double height) {
-  return {(displayWidth - width) / 2, displayHeight - height - 200};
-}
-
 AnalysisScreens::AnalysisScreens(HullStore& h) : h_(h) {}
 
 void AnalysisScreens::open() {

@@ -15,15 +15,6 @@ namespace tolmar::analysis {
 
 enum class ActiveScreen { other, hydro1, mass1 };
 
-// Where the window layer puts the two screens when they are loaded, in
-// twips of the display: both centred across it, hydro1 200 from its top,
-// mass1 with its bottom 200 above the display's bottom.
-struct ScreenPlace {
-  double left = 0, top = 0;
-};
-ScreenPlace hydroPlace(double displayWidth, double width);
-ScreenPlace massPlace(double displayWidth, double displayHeight, double width, double height);
-
 class AnalysisScreens {
  public:
   explicit AnalysisScreens(HullStore& h);

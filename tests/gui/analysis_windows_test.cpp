@@ -10,6 +10,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QtTest>
 #include <memory>
 
@@ -73,6 +76,7 @@ class AnalysisWindowsTest : public QObject {
   void densityTypedThenEnter();
   void closingHydroHidesBoth();
   void cdQuitDrawsTheWaterLine();
+  void bothWholeOnTheDisplayAndApart();
   void timeOfCalcul1On21Lines();
 };
 
@@ -89,6 +93,37 @@ void AnalysisWindowsTest::openShowsBothWithMassActive() {
   QVERIFY(mass()->text(2, 1)->isReadOnly());
   QVERIFY(!mass()->text(1, 1)->isReadOnly());
   QCOMPARE(mass()->text(1, 13), nullptr);
+}
+
+// The test platform's display (800 x 600) is too small for the screens'
+// own places: both windows stay whole on it, mass1 off hydro1, and its
+// rows scroll down to the totals while Calcul1 stays in sight.
+void AnalysisWindowsTest::bothWholeOnTheDisplayAndApart() {
+  pair_->open();
+  QVERIFY(QTest::qWaitForWindowExposed(mass()));
+  QApplication::processEvents();
+  const QRect display = hydro()->screen()->availableGeometry();
+  const QRect h = hydro()->frameGeometry(), m = mass()->frameGeometry();
+  QVERIFY2(display.contains(h), qPrintable(QString("hydro1 at %1,%2").arg(h.left()).arg(h.top())));
+  QVERIFY2(display.contains(m), qPrintable(QString("mass1 at %1,%2 %3x%4")
+                                               .arg(m.left())
+                                               .arg(m.top())
+                                               .arg(m.width())
+                                               .arg(m.height())));
+  QVERIFY(!h.intersects(m));
+  if (m.height() < mass()->sizeHint().height()) {
+    QScrollArea* rows = mass()->rows();
+    QVERIFY(rows->verticalScrollBar()->maximum() > 0);
+    rows->ensureWidgetVisible(mass()->text(4, 0));
+    const QPoint total = mass()->text(4, 0)->mapTo(mass(), QPoint(0, 0));
+    QVERIFY(total.y() >= 0 && total.y() < mass()->calcul1()->y());
+    QVERIFY(mass()->calcul1()->geometry().bottom() < mass()->height());
+    // No field is cut across: the bar has its own room.
+    QCOMPARE(rows->horizontalScrollBar()->maximum(), 0);
+    QLineEdit* last = mass()->text(4, 0);
+    QVERIFY(last->mapTo(rows->viewport(), QPoint(last->width(), 0)).x() <=
+            rows->viewport()->width());
+  }
 }
 
 void AnalysisWindowsTest::calcul1OfMassHandsTheDisplacementOver() {

@@ -281,6 +281,24 @@ class BoardSessionTest : public QObject {
     QVERIFY(!p.s->menu2().isVisible());
   }
 
+  // Quit on the board leaves it open behind menu2; closing menu2 by its
+  // frame then ends the program, and the application's closing of every
+  // window on its way out must not bring a start screen back.
+  void closingMenu2AfterQuitEndsTheProgram() {
+    Started p;
+    p.createAndValidate();
+    p.board().press(C::fmenu_Quit);
+    QVERIFY(p.s->menu2().isVisible());
+    QVERIFY(p.board().isVisible());
+    QSignalSpy ended(p.s.get(), &gui::Session::programEnded);
+    QVERIFY(p.s->menu2().close());
+    QCOMPARE(ended.count(), 1);
+    QApplication::closeAllWindows();  // what the application's quit does first
+    for (QWidget* w : QApplication::topLevelWidgets())
+      QVERIFY2(!w->isVisible(), qPrintable(w->objectName()));
+    QCOMPARE(ended.count(), 1);
+  }
+
   void frenchCaptionsOnTheNextAppearance() {
     Started p;
     p.s->menu2().langueButton(0)->click();

@@ -33,6 +33,8 @@ class FileDialogTest : public QObject {
   void realDialogShowsTheRequest();
   void realDialogCancel();
   void pdfIsWrittenWhole();
+  void pdfTitleDoesNotStayForTheHullFile();
+  void realDialogAfterPdfHasTheHullFileTitle();
   void pdfCancelledPrintsNothing();
   void pdfInAFolderWithoutWritePermission();
   void pdfDrawingThatFailsKeepsTheFormerFile();
@@ -175,6 +177,55 @@ void FileDialogTest::pdfIsWrittenWhole() {
   QVERIFY(pdf.contains("%%EOF"));
   QCOMPARE(pdf.count("/Type /Page\n") + pdf.count("/Type /Page\r") + pdf.count("/Type /Page "), 2);
   QVERIFY(files.messages().empty());
+}
+
+// The PDF file's dialog has its own title for itself alone: the hull file's
+// dialogs that follow show the title the last export left, or none.
+void FileDialogTest::pdfTitleDoesNotStayForTheHullFile() {
+  QTemporaryDir dir;
+  HullStore h;
+  h.hullName = "DORY";
+  CmDialog1 files(nullptr);
+  files.setUnattended(true);
+  CmDialog2 printers(nullptr);
+  printers.pdfOnly = true;
+  files.answerWith(dir.filePath("a.PDF").toStdString());
+  QCOMPARE(printDocument(files, printers, h, twoPages), PrintOutcome::printed);
+  QVERIFY(!files.askSaveFile({std::nullopt, "Data|*.D50", "DORY.D50", std::nullopt}));
+  QVERIFY(!files.askOpenFile({std::nullopt, "Data|*.D50", "Tolmar.D50", std::nullopt}));
+  QCOMPARE(files.asked()[1].title, QString());
+  QCOMPARE(files.asked()[2].title, QString());
+
+  files.answerWith(dir.filePath("a.DXF").toStdString());
+  QVERIFY(files.askSaveFile({"Export title", "Lines|*.DXF", "A.DXF", std::nullopt}));
+  files.answerWith(dir.filePath("b.PDF").toStdString());
+  QCOMPARE(printDocument(files, printers, h, twoPages), PrintOutcome::printed);
+  QVERIFY(!files.askSaveFile({std::nullopt, "Data|*.D50", "DORY.D50", std::nullopt}));
+  QCOMPARE(files.asked()[4].title, QString(kPdfTitle));
+  QCOMPARE(files.asked()[5].title, QString("Export title"));
+}
+
+void FileDialogTest::realDialogAfterPdfHasTheHullFileTitle() {
+  QTemporaryDir dir;
+  HullStore h;
+  h.hullName = "DORY";
+  CmDialog1 files(nullptr);
+  CmDialog2 printers(nullptr);
+  printers.pdfOnly = true;
+  QStringList titles;
+  auto cancel = [&titles](QFileDialog* fd) {
+    titles << fd->windowTitle();
+    fd->reject();
+  };
+  test::whenModal<QFileDialog>(cancel);
+  QVERIFY(!files.askSaveFile({std::nullopt, "Data|*.D50", "DORY.D50", std::nullopt}));
+  test::whenModal<QFileDialog>(cancel);
+  QCOMPARE(printDocument(files, printers, h, twoPages), PrintOutcome::cancelled);
+  test::whenModal<QFileDialog>(cancel);
+  QVERIFY(!files.askSaveFile({std::nullopt, "Data|*.D50", "DORY.D50", std::nullopt}));
+  QCOMPARE(titles.size(), 3);
+  QCOMPARE(titles[1], QString(kPdfTitle));
+  QCOMPARE(titles[2], titles[0]);
 }
 
 void FileDialogTest::pdfCancelledPrintsNothing() {

@@ -24,9 +24,13 @@ class Overlap1WindowTest : public QObject {
   std::unique_ptr<HullStore> h_;
   std::unique_ptr<Overlap1Window> w_;
 
-  // Runs the modal window and answers it with `user`.
+  // Runs the modal window and answers it with `user` once the window is
+  // active, so that a focus moved between its fields is a field left.
   int run(std::function<void(Overlap1Window*)> user) {
-    test::whenModal<Overlap1Window>(user);
+    test::whenModal<Overlap1Window>([user](Overlap1Window* w) {
+      if (!QTest::qWaitForWindowActive(w)) qWarning("overlap1 never became active");
+      user(w);
+    });
     return w_->run();
   }
 
@@ -42,6 +46,8 @@ class Overlap1WindowTest : public QObject {
   void decimalPointTypedLastStays();
   void leavingRewritesTheField();
   void adviceFollowsTheTyping();
+  void adviceKeepsTheLayoutStill_data();
+  void adviceKeepsTheLayoutStill();
   void enterPressesNoButton();
   void lapStrakeKeepsTheFields();
   void stripPlankingResetsAll();
@@ -196,6 +202,63 @@ void Overlap1WindowTest::lapsStayForTheNextOpening() {
     w->command1(0)->click();
   });
   QCOMPARE(lap, QString("30"));
+}
+
+namespace {
+
+void typeInto(QLineEdit* e, const char* text) {
+  e->setFocus();
+  e->selectAll();
+  QTest::keyClicks(e, text);
+}
+
+}  // namespace
+
+void Overlap1WindowTest::adviceKeepsTheLayoutStill_data() {
+  QTest::addColumn<int>("langue");
+  QTest::newRow("en") << 1;
+  QTest::newRow("fr") << 0;
+}
+
+// The advice lines have their room from the start: typing a thickness or
+// clearing it moves no field and does not resize the window.
+void Overlap1WindowTest::adviceKeepsTheLayoutStill() {
+  QFETCH(int, langue);
+  h_->langue = static_cast<i16>(langue);
+  QSize before, withAdvice, cleared;
+  QList<QRect> fieldsBefore, fieldsWithAdvice;
+  QRect adviceRect;
+  auto fieldRects = [](Overlap1Window* w) {
+    QList<QRect> r;
+    for (Group g : {Group::text1, Group::text2})
+      for (int i = 0; i < 2; ++i) r << w->field(g, i)->geometry();
+    r << w->field(Group::text3, 1)->geometry() << w->field(Group::text3, 2)->geometry();
+    return r;
+  };
+  run([&](Overlap1Window* w) {
+    QVERIFY(QTest::qWaitForWindowExposed(w));
+    before = w->size();
+    fieldsBefore = fieldRects(w);
+    typeInto(w->field(Group::text1, 0), "12");
+    typeInto(w->field(Group::text2, 0), "6");
+    QApplication::processEvents();
+    withAdvice = w->size();
+    fieldsWithAdvice = fieldRects(w);
+    adviceRect = w->advice(0)->geometry();
+    QVERIFY(w->advice(0)->text().contains('\n'));
+    // The two lines of the bottom's advice are seen whole.
+    QVERIFY(adviceRect.height() >= 2 * w->advice(0)->fontMetrics().lineSpacing());
+    QVERIFY(w->advice(0)->sizeHint().width() <= adviceRect.width());
+    QVERIFY(w->advice(1)->sizeHint().width() <= w->advice(1)->width());
+    typeInto(w->field(Group::text2, 1), "1");  // the advice of the sides goes
+    QApplication::processEvents();
+    QVERIFY(w->advice(1)->text().isEmpty());
+    cleared = w->size();
+    w->command1(0)->click();
+  });
+  QCOMPARE(withAdvice, before);
+  QCOMPARE(cleared, before);
+  QCOMPARE(fieldsWithAdvice, fieldsBefore);
 }
 
 QTEST_MAIN(Overlap1WindowTest)

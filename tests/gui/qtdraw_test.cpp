@@ -170,10 +170,14 @@ class QtDrawTest : public QObject {
     {
       QPdfWriter pdf(path);
       pdf.setPageSize(QPageSize(QPageSize::A4));
-      qtdraw::PagedSurface s(pdf);
-      // A4 as the PDF gives it, 595 x 842 points of 20 twips.
-      QVERIFY(std::abs(s.Width() - 11900) < 2);
-      QVERIFY(std::abs(s.Height() - 16840) < 2);
+      qtdraw::PaperOptions whole;
+      whole.marginMm = 0;
+      whole.calibrationBars = false;
+      qtdraw::PagedSurface s(pdf, whole);
+      // A4 as the PDF gives it, 595 x 842 points, in twips of 568 to the
+      // centimetre: 11922.5 x 16871.8.
+      QVERIFY(std::abs(s.Width() - 595 / 72.0 * 2.54 * 568) < 2);
+      QVERIFY(std::abs(s.Height() - 842 / 72.0 * 2.54 * 568) < 2);
       QCOMPARE(s.FontName, std::string("Arial"));
       s.PSet(681.6f, 200);
       s.Print({"TOLMAR2005", "   page", static_cast<int>(s.Page)});
