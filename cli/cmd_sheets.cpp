@@ -37,8 +37,7 @@ constexpr const char* kUsage =
     "      [--only PART,...] [--skip PART,...] [--lang fr|en] [--auto] [--set ...]";
 
 int usage(const std::string& why) {
-  std::fprintf(stderr, "tolmar-cli sheets: %s\nusage: tolmar-cli sheets %s\n", why.c_str(),
-               kUsage);
+  std::fprintf(stderr, "tolmar-cli sheets: %s\nusage: tolmar-cli sheets %s\n", why.c_str(), kUsage);
   return 2;
 }
 

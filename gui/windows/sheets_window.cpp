@@ -31,7 +31,9 @@ using namespace tolmar::sheets;
 
 namespace {
 
-QString q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+QString q(std::string_view s) {
+  return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
 
 QDoubleSpinBox* spin(QWidget* parent, double lo, double hi, int decimals) {
   auto* s = new QDoubleSpinBox(parent);
@@ -314,7 +316,8 @@ bool SheetsWindow::saveDxf() {
     StringSink dxf;
     writeSheetDxf(dxf, plan_, s, h_->hullName, langue_);
     const std::string path =
-        first.dir().filePath(QString::fromStdString(sheetDxfName(base.toStdString(), s)))
+        first.dir()
+            .filePath(QString::fromStdString(sheetDxfName(base.toStdString(), s)))
             .toStdString();
     if (!write(path, dxf.text())) return false;
   }

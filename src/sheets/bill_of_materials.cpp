@@ -55,8 +55,15 @@ Bom billOfMaterials(const SheetPlan& plan) {
       const Piece& p = plan.pieces[pp.piece];
       const SheetPart& part = plan.parts[p.part];
       const MmBox b = boundingBox(p.outline);
-      BomPiece bp{part.name, part.side, p.piece, p.of, static_cast<int>(s) + 1,
-                  b.width(),  b.height(), polygonArea(p.outline) / 1e6, part.thicknessMm};
+      BomPiece bp{part.name,
+                  part.side,
+                  p.piece,
+                  p.of,
+                  static_cast<int>(s) + 1,
+                  b.width(),
+                  b.height(),
+                  polygonArea(p.outline) / 1e6,
+                  part.thicknessMm};
       bom.usedAreaM2 += bp.areaM2;
       bom.massKg += bp.areaM2 * part.densityKgM2;
       areaByThickness[part.thicknessMm] += bp.areaM2;

@@ -14,7 +14,7 @@ namespace tolmar::sheets {
 namespace {
 
 struct Candidate {
-  SheetPart part;   // starboard copy, or the one panel across
+  SheetPart part;  // starboard copy, or the one panel across
   bool twice = false;
   bool budgeted = false;
 };
@@ -71,11 +71,20 @@ std::vector<MmPolyline> plateMarks(const DevelopedPlate& d) {
 double thicknessOf(PartKind k, const HullStore& h, bool& assumed) {
   double t = 0, fallback = kOtherMm;
   switch (k) {
-    case PartKind::bottom: t = h.plankThick(0), fallback = kBottomMm; break;
-    case PartKind::plank: t = h.nChines >= 2 ? h.plankThick(1) : 0, fallback = kPlankMm; break;
-    case PartKind::transom: t = h.transomThick, fallback = kTransomMm; break;
-    case PartKind::pramBow: t = h.bowThick, fallback = kBowMm; break;
-    default: break;
+    case PartKind::bottom:
+      t = h.plankThick(0), fallback = kBottomMm;
+      break;
+    case PartKind::plank:
+      t = h.nChines >= 2 ? h.plankThick(1) : 0, fallback = kPlankMm;
+      break;
+    case PartKind::transom:
+      t = h.transomThick, fallback = kTransomMm;
+      break;
+    case PartKind::pramBow:
+      t = h.bowThick, fallback = kBowMm;
+      break;
+    default:
+      break;
   }
   t *= 1000;
   assumed = !(std::isfinite(t) && t > 0.01);
@@ -134,16 +143,24 @@ std::vector<Candidate> candidates(const HullStore& h) {
     PartKind k = PartKind::plank;
     double density = 0;
     switch (d.kind) {
-      case PlateKind::bottom: k = PartKind::bottom, density = h.panelDensity(1); break;
-      case PlateKind::plank: k = PartKind::plank, density = plankDensity(h, d.index); break;
+      case PlateKind::bottom:
+        k = PartKind::bottom, density = h.panelDensity(1);
+        break;
+      case PlateKind::plank:
+        k = PartKind::plank, density = plankDensity(h, d.index);
+        break;
       case PlateKind::deck:
         k = PartKind::deck;
         // Deck 1 of the budget is the last line, deck 2 the one below.
         for (int j = 1; j <= nDecks; ++j)
           if (d.index == nChines + 1 - j) density = h.deckDensity(j);
         break;
-      case PlateKind::transom: k = PartKind::transom, density = h.panelDensity(5); break;
-      case PlateKind::pramBow: k = PartKind::pramBow, density = h.panelDensity(6); break;
+      case PlateKind::transom:
+        k = PartKind::transom, density = h.panelDensity(5);
+        break;
+      case PlateKind::pramBow:
+        k = PartKind::pramBow, density = h.panelDensity(6);
+        break;
     }
     addCandidate(out, h, d.name, k, toMm(d.outline(lap)), plateMarks(d), d.cutTwice, density);
   }
@@ -152,8 +169,8 @@ std::vector<Candidate> candidates(const HullStore& h) {
                  true, h.floorDensity(j));
   for (int j = 1; j <= 2; ++j) {
     const int P = bulkheadPoint(h, h.bulkX(j));
-    addCandidate(out, h, "bulkhead " + std::to_string(j), PartKind::bulkhead,
-                 sectionOutline(h, P), {}, false, h.panelDensity(6 + j));
+    addCandidate(out, h, "bulkhead " + std::to_string(j), PartKind::bulkhead, sectionOutline(h, P),
+                 {}, false, h.panelDensity(6 + j));
   }
   return out;
 }
@@ -201,8 +218,7 @@ PartsResult partsFromHull(const HullStore& h, const SheetOptions& o) {
     for (const Candidate& c : all)
       if (c.budgeted && !skipped(c.part.name)) emit(r.parts, c);
   }
-  if (r.parts.empty())
-    r.error = fr ? "Aucun panneau à découper." : "No part left to cut.";
+  if (r.parts.empty()) r.error = fr ? "Aucun panneau à découper." : "No part left to cut.";
   return r;
 }
 

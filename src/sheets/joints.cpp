@@ -125,10 +125,10 @@ CutResult cutParts(const std::vector<SheetPart>& parts, const SheetOptions& o, d
     for (int i = 0; i < k; ++i) {
       const double a = i == 0 ? box.x0 - 1 : at[i - 1] - s / 2;
       const double b = i + 1 == k ? box.x1 + 1 : at[i] + s / 2;
-      if (b - a > U + 1e-6 && k > 1) {
+      const double pieceLength = std::min(b, box.x1) - std::max(a, box.x0);
+      if (pieceLength > U + 1e-6 && k > 1) {
         r.error = (fr ? "La pièce " : "Piece ") + std::to_string(i + 1) + (fr ? " de " : " of ") +
-                  part.name + (fr ? " est longue de " : " is ") +
-                  mm(std::min(b, box.x1) - std::max(a, box.x0)) +
+                  part.name + (fr ? " est longue de " : " is ") + mm(pieceLength) +
                   (fr ? " ; la feuille permet " : " long; the sheet takes ") + mm(U) + ".";
         return r;
       }
@@ -155,8 +155,8 @@ CutResult cutParts(const std::vector<SheetPart>& parts, const SheetOptions& o, d
     for (std::size_t j = 0; j < at.size(); ++j) {
       r.joints.push_back({pi, at[j], s, o.joint});
       if (o.joint != JointKind::butt) continue;
-      const auto strap = clipBand(part.outline, at[j] - o.strapWidthMm / 2,
-                                  at[j] + o.strapWidthMm / 2);
+      const auto strap =
+          clipBand(part.outline, at[j] - o.strapWidthMm / 2, at[j] + o.strapWidthMm / 2);
       if (strap.empty()) continue;
       SheetPart sp;
       sp.name = part.name + (fr ? " couvre-joint " : " strap ") + std::to_string(j + 1);

@@ -29,8 +29,8 @@ std::vector<std::string> checkLayout(const SheetPlan& plan) {
     const Sheet& sh = plan.sheets[s];
     const std::string where = " on sheet " + std::to_string(s + 1);
     const double m = o.marginMm - tolMm;
-    const Path inner = toPath({{m, m}, {sh.lengthMm - m, m}, {sh.lengthMm - m, sh.widthMm - m},
-                               {m, sh.widthMm - m}});
+    const Path inner = toPath(
+        {{m, m}, {sh.lengthMm - m, m}, {sh.lengthMm - m, sh.widthMm - m}, {m, sh.widthMm - m}});
     std::vector<Paths> halo;
     for (const PlacedPiece& pp : sh.pieces) {
       if (pp.piece < 0 || pp.piece >= static_cast<int>(plan.pieces.size())) {

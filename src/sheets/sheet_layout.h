@@ -14,8 +14,8 @@ namespace tolmar::sheets {
 struct Piece {
   int part = 0;  // index into SheetPlan::parts
   int piece = 1, of = 1;
-  MmPolygon outline;               // in the part's frame
-  std::vector<MmPolyline> marks;   // ticks, maximum beam, joint lines
+  MmPolygon outline;              // in the part's frame
+  std::vector<MmPolyline> marks;  // ticks, maximum beam, joint lines
 };
 
 struct Joint {

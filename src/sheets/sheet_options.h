@@ -9,7 +9,7 @@ namespace tolmar::sheets {
 enum class JointKind { scarf, butt, none };
 
 struct JointAt {
-  std::string part;  // "p03"
+  std::string part;    // "p03"
   double xMetres = 0;  // from the part's aft end
 };
 
@@ -19,9 +19,9 @@ struct SheetOptions {
   double kerfMm = 3;                       // the smallest gap between two pieces
   bool rotate90 = false;                   // pieces may also turn across the grain
   JointKind joint = JointKind::scarf;
-  double scarfRatio = 8;     // a scarf's length over the thickness
-  double strapWidthMm = 150;  // along the joint's part
-  std::vector<JointAt> jointsAt;  // moved by the user
+  double scarfRatio = 8;                // a scarf's length over the thickness
+  double strapWidthMm = 150;            // along the joint's part
+  std::vector<JointAt> jointsAt;        // moved by the user
   std::vector<std::string> only, skip;  // part names; `only` may repeat a name for a copy
 };
 

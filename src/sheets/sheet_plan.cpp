@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <future>
 #include <map>
 
 #include "sheets/clipper_geometry.h"
@@ -29,8 +30,8 @@ std::string tooWide(const SheetPlan& plan, double U, double W, int langue) {
   const bool fr = langue == 0;
   for (const Piece& p : plan.pieces) {
     const MmBox b = boundingBox(p.outline);
-    const bool along = b.width() <= U && b.height() <= W;
-    const bool across = plan.options.rotate90 && b.height() <= U && b.width() <= W;
+    const bool along = b.width() <= U + 0.005 && b.height() <= W + 0.005;
+    const bool across = plan.options.rotate90 && b.height() <= U + 0.005 && b.width() <= W + 0.005;
     if (along || across) continue;
     const std::string& name = plan.parts[p.part].name;
     if (b.height() > W && !(plan.options.rotate90 && b.height() <= U))
@@ -49,7 +50,9 @@ void nestPlan(SheetPlan& plan) {
   std::map<double, std::vector<int>> byThickness;
   for (int i = 0; i < static_cast<int>(plan.pieces.size()); ++i)
     byThickness[plan.parts[plan.pieces[i].part].thicknessMm].push_back(i);
-  const auto u = [](double v) { return static_cast<ClipperLib::cInt>(std::llround(v * kUnitsPerMm)); };
+  const auto u = [](double v) {
+    return static_cast<ClipperLib::cInt>(std::llround(v * kUnitsPerMm));
+  };
   for (const auto& [thickness, ids] : byThickness) {
     NestRequest r;
     for (int i : ids) r.shapes.push_back(toPath(plan.pieces[i].outline));
@@ -104,7 +107,8 @@ std::string checkOptions(const SheetOptions& o, int langue) {
     return fr ? "La largeur du couvre-joint doit être supérieure à 0."
               : "The butt strap width must be above 0.";
   if (o.lengthMm <= 2 * o.marginMm || o.widthMm <= 2 * o.marginMm)
-    return fr ? "Les marges ne laissent rien de la feuille." : "The margins leave nothing of the sheet.";
+    return fr ? "Les marges ne laissent rien de la feuille."
+              : "The margins leave nothing of the sheet.";
   for (const JointAt& j : o.jointsAt)
     if (!std::isfinite(j.xMetres))
       return fr ? "Position de joint illisible." : "A joint position is not a number.";
@@ -121,25 +125,33 @@ SheetPlan planParts(std::vector<SheetPart> parts, const SheetOptions& o, int lan
   for (const SheetPart& p : parts) needsJoint |= boundingBox(p.outline).width() > U;
   const JointStrategy all[] = {JointStrategy::even, JointStrategy::fromAft,
                                JointStrategy::fromForward};
-  bool have = false;
-  for (JointStrategy st : all) {
-    if (!needsJoint && st != JointStrategy::even) break;
+  // Each way of placing the joints is planned on a thread of its own.
+  auto attempt = [&](JointStrategy st) {
     SheetPlan plan;
     plan.options = o;
     plan.parts = parts;
-    CutResult cut = cutParts(parts, o, U, st, langue);
+    // A tenth of a millimetre to spare for the rounding of the outlines.
+    CutResult cut = cutParts(parts, o, U - 0.1, st, langue);
     if (!cut.error.empty()) {
       plan.error = cut.error;
-      if (!have) best = std::move(plan);
-      continue;
+      return plan;
     }
     for (SheetPart& s : cut.straps) plan.parts.push_back(std::move(s));
     plan.pieces = std::move(cut.pieces);
     plan.joints = std::move(cut.joints);
     plan.error = tooWide(plan, U, W, langue);
     if (plan.error.empty()) nestPlan(plan);
+    return plan;
+  };
+  std::vector<std::future<SheetPlan>> tries;
+  for (JointStrategy st : all)
+    if (needsJoint || st == JointStrategy::even)
+      tries.push_back(std::async(std::launch::async, attempt, st));
+  bool have = false;
+  for (auto& t : tries) {
+    SheetPlan plan = t.get();
     if (!plan.error.empty()) {
-      if (!have) best = std::move(plan);
+      if (!have && best.error.empty()) best = std::move(plan);
       continue;
     }
     if (!have || plan.sheets.size() < best.sheets.size()) {

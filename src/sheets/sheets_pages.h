@@ -20,7 +20,6 @@ void drawSheet(DrawingSurface& s, const SheetPlan& plan, int sheet, float left, 
 int pageScale(const Sheet& sheet, float widthTwips, float heightTwips);
 
 // The whole document on a paged surface, ending with EndDoc.
-void printSheets(DrawingSurface& s, const SheetPlan& plan, const std::string& hullName,
-                 int langue);
+void printSheets(DrawingSurface& s, const SheetPlan& plan, const std::string& hullName, int langue);
 
 }  // namespace tolmar::sheets

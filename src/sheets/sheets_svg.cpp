@@ -19,11 +19,16 @@ std::string num(double v) {
 std::string escaped(const std::string& s) {
   std::string out;
   for (char c : s) {
-    if (c == '&') out += "&amp;";
-    else if (c == '<') out += "&lt;";
-    else if (c == '>') out += "&gt;";
-    else if (c == '"') out += "&quot;";
-    else out += c;
+    if (c == '&')
+      out += "&amp;";
+    else if (c == '<')
+      out += "&lt;";
+    else if (c == '>')
+      out += "&gt;";
+    else if (c == '"')
+      out += "&quot;";
+    else
+      out += c;
   }
   return out;
 }
@@ -55,7 +60,8 @@ std::string sheetsSvg(const SheetPlan& plan, const std::string& hullName, int la
     const double base = top + caption + s.widthMm;  // Y of the sheet's X axis
     auto pt = [&](const MmPoint& p) { return num(p.x) + "," + num(base - p.y); };
     o += "<rect x=\"0\" y=\"" + num(top + caption) + "\" width=\"" + num(s.lengthMm) +
-         "\" height=\"" + num(s.widthMm) + "\" fill=\"#f4ecd8\" stroke=\"black\" stroke-width=\"2\"/>\n";
+         "\" height=\"" + num(s.widthMm) +
+         "\" fill=\"#f4ecd8\" stroke=\"black\" stroke-width=\"2\"/>\n";
     for (const PlacedPiece& pp : s.pieces) {
       o += "<polygon fill=\"#ffffff\" stroke=\"red\" stroke-width=\"1.5\" points=\"";
       for (std::size_t k = 0; k < pp.outline.size(); ++k) {

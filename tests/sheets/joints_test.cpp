@@ -2,13 +2,14 @@
 // back together make the part again: a scarf's pieces overlapping by ratio
 // x thickness, a butt strap's meeting on the joint with the strap cut
 // around it.
+#include "sheets/joints.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 #include "sheet_fixtures.h"
 #include "sheets/clipper_geometry.h"
-#include "sheets/joints.h"
 
 namespace tolmar::sheets {
 namespace {
@@ -38,7 +39,8 @@ double perimeter(const MmPolygon& p) {
 
 TEST(AutoJoints, PiecesFitTheSheetAndJointsKeepClearOfTheEnds) {
   const double L = 5200, U = 2420, s = 48;
-  for (JointStrategy st : {JointStrategy::even, JointStrategy::fromAft, JointStrategy::fromForward}) {
+  for (JointStrategy st :
+       {JointStrategy::even, JointStrategy::fromAft, JointStrategy::fromForward}) {
     const auto c = autoJoints(L, U, s, st);
     ASSERT_EQ(c.size(), 2u);  // (5200 - 48) / (2420 - 48) = 2.17: three pieces
     double from = 0;
@@ -57,7 +59,7 @@ TEST(AutoJoints, PiecesFitTheSheetAndJointsKeepClearOfTheEnds) {
   EXPECT_NEAR(even[0] + s / 2, (L + 2 * s) / 3, 1e-9);
   // From aft: the first piece takes the whole usable length.
   EXPECT_NEAR(autoJoints(L, U, s, JointStrategy::fromAft)[0] + s / 2, U, 1e-9);
-  EXPECT_TRUE(autoJoints(2000, U, s, JointStrategy::even).empty());  // fits already
+  EXPECT_TRUE(autoJoints(2000, U, s, JointStrategy::even).empty());    // fits already
   EXPECT_TRUE(autoJoints(5000, 40, 48, JointStrategy::even).empty());  // scarf longer than sheet
 }
 
