@@ -42,6 +42,9 @@ class DessinWindow : public QMainWindow {
   QLineEdit* text2() const { return text2_; }
   // The "Build" menu after the original menus.
   BuildMenu& buildMenu() const { return *buildMenu_; }
+  // The warning line over the top of the picture, shown while the hull
+  // folds (board::BoardState::folds), in the store's language.
+  QLabel* foldLine() const { return foldLine_; }
 
   // A click on a button or menu entry, or its shortcut.
   void press(board::BoardControl c);
@@ -65,6 +68,7 @@ class DessinWindow : public QMainWindow {
   void buildControls();
   void buildMenu();
   void applyLayout();
+  void placeFoldLine();
 
   Session& s_;
   board::BoardState b_;
@@ -78,6 +82,7 @@ class DessinWindow : public QMainWindow {
   QLineEdit* text1_ = nullptr;
   QLineEdit* text2_ = nullptr;
   BuildMenu* buildMenu_ = nullptr;
+  QLabel* foldLine_ = nullptr;
 };
 
 }  // namespace tolmar::gui
