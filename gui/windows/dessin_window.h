@@ -41,7 +41,7 @@ class DessinWindow : public QMainWindow {
   QLineEdit* text1() const { return text1_; }
   QLineEdit* text2() const { return text2_; }
   // The "Build" menu after the original menus.
-  BuildMenu& buildMenu() const { return *buildMenu_; }
+  BuildMenu& constructionMenu() const { return *buildMenu_; }
   // The warning line over the top of the picture, shown while the hull
   // folds (board::BoardState::folds), in the store's language.
   QLabel* foldLine() const { return foldLine_; }

