@@ -72,9 +72,15 @@ TEST(HullParts, TheMassBudgetsPanelsWithTheirThickness) {
   ASSERT_EQ(typed.error, "");
   for (const SheetPart& p : typed.parts) {
     EXPECT_NE(p.name, "p04");
-    if (p.name == "p00") EXPECT_NEAR(p.thicknessMm, 12, 1e-9);
-    if (p.name == "p01") EXPECT_NEAR(p.thicknessMm, 6.5, 1e-9);
-    if (p.name == "p00" || p.name == "p01") EXPECT_FALSE(p.thicknessAssumed);
+    if (p.name == "p00") {
+      EXPECT_NEAR(p.thicknessMm, 12, 1e-9);
+    }
+    if (p.name == "p01") {
+      EXPECT_NEAR(p.thicknessMm, 6.5, 1e-9);
+    }
+    if (p.name == "p00" || p.name == "p01") {
+      EXPECT_FALSE(p.thicknessAssumed);
+    }
   }
   auto pram = fixture::pramBowHull();
   o = {};
