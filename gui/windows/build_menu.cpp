@@ -1,7 +1,6 @@
 #include "windows/build_menu.h"
 
 #include <QAction>
-#include <QMenuBar>
 #include <cstring>
 
 #include "windows/sheets_window.h"
@@ -21,12 +20,9 @@ const std::vector<BuildEntry>& buildEntries() {
   return entries;
 }
 
-BuildMenu::BuildMenu(QMenuBar* bar, QWidget* board, const HullStore& h)
-    : QObject(bar), board_(board), h_(h), menu_(bar->addMenu(QString())) {
-  menu_->setObjectName("fmenu_Build");
-  menu_->menuAction()->setObjectName("fmenu_Build");
+BuildMenu::BuildMenu(QMenu* menu, QWidget* board, const HullStore& h)
+    : QObject(menu), board_(board), h_(h), menu_(menu) {
   const auto& entries = buildEntries();
-  menu_->menuAction()->setVisible(!entries.empty());
   for (std::size_t i = 0; i < entries.size(); ++i) {
     QAction* a = menu_->addAction(QString());
     a->setObjectName(entries[i].objectName);
