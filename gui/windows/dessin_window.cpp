@@ -182,6 +182,8 @@ void DessinWindow::buildAddedEntries() {
     devCheckWindow_->raise();
     devCheckWindow_->activateWindow();
   });
+  // The entries of build_menu.h after it.
+  buildMenu_ = new BuildMenu(build_, this, s_.store());
 }
 
 QPushButton* DessinWindow::button(BoardControl c) const {
@@ -228,6 +230,7 @@ void DessinWindow::syncFromModel() {
     }
   }
   for (BoardControl c : kButtons) button(c)->setText(captionOf(c, captionLangue_));
+  buildMenu_->sync(b_, captionLangue_);
   label1_->setText(captionOf(C::Label1, captionLangue_));
   label2_->setText(captionOf(C::Label2, captionLangue_));
   if (text1_->text() != qtText(b_.text1)) text1_->setText(qtText(b_.text1));
