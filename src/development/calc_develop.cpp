@@ -39,14 +39,30 @@ double levellingAngle(double x1, double y1, double x2, double y2) {
   return std::atan(num / den);
 }
 
+DevEdges devEdgesOf(const HullStore& h) { return DevEdges{h.devXi, h.devYi, h.devXs, h.devYs}; }
+
+void storeDevEdges(HullStore& h, const DevEdges& d) {
+  h.devXi = d.xi;
+  h.devYi = d.yi;
+  h.devXs = d.xs;
+  h.devYs = d.ys;
+}
+
 void calcDevelop(HullStore& h, int n, int line, const TableRef& x, const TableRef& y,
+                 const TableRef& z) {
+  DevEdges d = devEdgesOf(h);
+  calcDevelop(d, h.iMaxBeam, n, line, x, y, z);
+  storeDevEdges(h, d);
+}
+
+void calcDevelop(DevEdges& d, int iMaxBeam, int n, int line, const TableRef& x, const TableRef& y,
                  const TableRef& z) {
   const int lo = line, up = line + 1, last = n + 2;
   auto P = [&](int l, int i) { return P3{x(l, i), y(l, i), z(l, i)}; };
-  auto& xi = h.devXi;
-  auto& yi = h.devYi;
-  auto& xs = h.devXs;
-  auto& ys = h.devYs;
+  auto& xi = d.xi;
+  auto& yi = d.yi;
+  auto& xs = d.xs;
+  auto& ys = d.ys;
 
   // The starting rung.
   constexpr int s = 10;
@@ -118,7 +134,7 @@ void calcDevelop(HullStore& h, int n, int line, const TableRef& x, const TableRe
   if (line == 0) {
     // iMaxBeam is 5..77 once the first screen has run; held inside the
     // plate for a store that has not been validated.
-    const int m = std::clamp<int>(h.iMaxBeam, 2, last - 2);
+    const int m = std::clamp<int>(iMaxBeam, 2, last - 2);
     theta = levellingAngle(xi(m - 2), yi(m - 2), xi(m + 2), yi(m + 2));
   } else if (line == 1) {
     theta = levellingAngle(xi(0), yi(0), xi(last), yi(last));
@@ -155,6 +171,16 @@ void developBottom(HullStore& h) {
 
 void developPlank(HullStore& h, int k) {
   calcDevelop(h, kPlankLastPoint - 2, k, h.lineXRef(), h.lineZRef(), h.lineYRef());
+}
+
+DevEdges bottomEdges(const HullStore& h, DevEdges d) {
+  calcDevelop(d, h.iMaxBeam, kBottomLastPoint - 2, 0, h.edgeXRef(), h.edgeYRef(), h.edgeZRef());
+  return d;
+}
+
+DevEdges plankEdges(const HullStore& h, int k, DevEdges d) {
+  calcDevelop(d, h.iMaxBeam, kPlankLastPoint - 2, k, h.lineXRef(), h.lineZRef(), h.lineYRef());
+  return d;
 }
 
 }  // namespace tolmar

@@ -10,6 +10,22 @@
 
 namespace tolmar {
 
+// The two developed edges of one plate: lower (xi, yi) and upper (xs, ys),
+// points 0..n+2 used.
+struct DevEdges {
+  DevArr xi, yi, xs, ys;
+  bool operator==(const DevEdges&) const = default;
+};
+
+// The store's dev arrays as edges, and back.
+DevEdges devEdgesOf(const HullStore& h);
+void storeDevEdges(HullStore& h, const DevEdges& d);
+
+// The development itself on edges of one's own: slots above n+2 keep what
+// they held.  iMaxBeam levels the bottom (line 0).
+void calcDevelop(DevEdges& d, int iMaxBeam, int n, int line, const TableRef& x, const TableRef& y,
+                 const TableRef& z);
+
 // Develops the strip between rows `line` and `line`+1 of the three tables,
 // points 0..n+2 (n >= 8, n+2 <= 90).  Only distances and exact equality of
 // points are used, so the order of the three tables does not matter.
@@ -25,6 +41,9 @@ void calcDevelop(HullStore& h, int n, int line, const TableRef& x, const TableRe
 // plank k (1..nChines-1) between lines k and k+1, points 0..82.
 void developBottom(HullStore& h);
 void developPlank(HullStore& h, int k);
+// The same on edges of their own, the store unchanged.
+DevEdges bottomEdges(const HullStore& h, DevEdges start = {});
+DevEdges plankEdges(const HullStore& h, int k, DevEdges start = {});
 
 inline constexpr int kBottomLastPoint = 83;
 inline constexpr int kPlankLastPoint = 82;

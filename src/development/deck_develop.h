@@ -6,6 +6,7 @@
 // levelled and not shifted in Y.
 #pragma once
 
+#include "development/calc_develop.h"
 #include "hull/hull_store.h"
 
 namespace tolmar {
@@ -15,7 +16,12 @@ namespace tolmar {
 void calcDevelopDeck(HullStore& h, int n, int line, const TableRef& x, const TableRef& y,
                      const TableRef& z);
 
-// The form in use: the deck bounded by line k, points 0..82.
+void calcDevelopDeck(DevEdges& d, int n, int line, const TableRef& x, const TableRef& y,
+                     const TableRef& z);
+
+// The form in use: the deck bounded by line k, points 0..82; on edges of
+// one's own, the store unchanged.
 void developDeck(HullStore& h, int k);
+DevEdges deckEdges(const HullStore& h, int k, DevEdges start = {});
 
 }  // namespace tolmar

@@ -27,6 +27,18 @@ void calcTransomPlate(HullStore& h) { unrollSection(h, 0, h.transomPlate); }
 
 void calcBowPlate(HullStore& h) { unrollSection(h, kLastPoint, h.bowPlate); }
 
+EndPlate transomPlateOf(const HullStore& h) {
+  EndPlate p = h.transomPlate;
+  unrollSection(h, 0, p);
+  return p;
+}
+
+EndPlate bowPlateOf(const HullStore& h) {
+  EndPlate p = h.bowPlate;
+  unrollSection(h, kLastPoint, p);
+  return p;
+}
+
 bool hasPramBow(const HullStore& h) { return h.yFwd(1) > 0.001; }
 
 }  // namespace tolmar

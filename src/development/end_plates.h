@@ -16,6 +16,11 @@ void calcTransomPlate(HullStore& h);
 // skip the test.
 void calcBowPlate(HullStore& h);
 
+// The same as values, the store unchanged (points above the last section
+// point keep the store's).
+EndPlate transomPlateOf(const HullStore& h);
+EndPlate bowPlateOf(const HullStore& h);
+
 // The forward end of the first chine has a breadth: above 0.001 m.
 bool hasPramBow(const HullStore& h);
 

@@ -7,7 +7,7 @@
 #include "development/deck_develop.h"
 #include "development/end_plates.h"
 #include "export/end_plates_dxf.h"
-#include "export/plate_cut.h"
+#include "development/plate_cut.h"
 #include "export/polyline_out.h"
 #include "export/stroke_font.h"
 #include "text/number_format.h"

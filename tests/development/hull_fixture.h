@@ -74,6 +74,17 @@ inline std::unique_ptr<HullStore> pramBowHull() {
   return h;
 }
 
+// Two lines: the bottom and one side plank.
+inline std::unique_ptr<HullStore> twoLineHull() {
+  auto h = std::make_unique<HullStore>();
+  initDefaultHull(*h);
+  h->nChines = 2;
+  validateBottom(*h);
+  validatePlanks(*h);
+  buildAllStations(*h);
+  return h;
+}
+
 // 21 lines: 20 side planks from 45 to 102 degrees by 3.
 inline std::unique_ptr<HullStore> manyLineHull() {
   auto h = std::make_unique<HullStore>();

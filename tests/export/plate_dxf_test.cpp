@@ -11,7 +11,7 @@
 #include "development/end_plates.h"
 #include "dxf_text_reader.h"
 #include "export/end_plates_dxf.h"
-#include "export/plate_cut.h"
+#include "development/plate_cut.h"
 #include "export/preset_host.h"
 #include "export_fixtures.h"
 #include "golden_file.h"

@@ -4,13 +4,11 @@
 // plank moved out by its lap.  Flat metres, as the dev arrays.
 #pragma once
 
+#include "development/calc_develop.h"
+#include "development/flat_point.h"
 #include "hull/hull_store.h"
 
 namespace tolmar {
-
-struct FlatPoint {
-  double x = 0, y = 0;
-};
 
 struct CutOutline {
   Arr<FlatPoint, 0, kMaxDev> low, up;  // points 0..lastPoint are set
@@ -21,5 +19,7 @@ struct CutOutline {
 // is the developed one, exactly.  A corner that cannot be shifted to a
 // finite point stays where the development put it.
 CutOutline cutOutline(const HullStore& h, int n, int lastPoint);
+// The same from developed edges of one's own.
+CutOutline cutOutline(const HullStore& h, const DevEdges& d, int n, int lastPoint);
 
 }  // namespace tolmar
