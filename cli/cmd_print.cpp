@@ -122,6 +122,7 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
         if (comma > start) p.plates.push_back(v->substr(start, comma - start));
         start = comma + 1;
       }
+      if (p.plates.empty()) return usage("--plates needs names, as p01,p02,transom");
     } else if (a == "--set") {
       sessionArgs.push_back(a);
       if (const std::string* v = value()) sessionArgs.push_back(*v);
