@@ -26,6 +26,7 @@
 #include "development/developed_plate.h"
 #include "io/safe_write.h"
 #include "pipeline.h"
+#include "printing/panel_offsets_report.h"
 #include "printing/paper_setup.h"
 #include "printing/pattern_pages.h"
 #include "printing/print_menu.h"
@@ -38,7 +39,7 @@ namespace {
 using board::BoardControl;
 
 constexpr const char* kUsage =
-    "HULL.D50 data|drawing|develop|station|all|patterns OUT.pdf [--paper A4|A3|Letter]\n"
+    "HULL.D50 data|drawing|develop|station|all|patterns|panels OUT.pdf [--paper A4|A3|Letter]\n"
     "      [--landscape] [--margin-mm 5] [--calibrate X,Y] [--station X] [--lang fr|en]\n"
     "      [--overlap-mm 10] [--plates p01,p02,...] [--auto] [--set SCREEN.CONTROL=VALUE]...";
 
@@ -64,11 +65,9 @@ int usage(const char* why) {
 
 std::optional<BoardControl> kindEntry(const std::string& kind) {
   static const std::map<std::string, BoardControl> kinds = {
-      {"data", BoardControl::fmenu_P_Data},
-      {"drawing", BoardControl::fmenu_P_Dessin},
-      {"develop", BoardControl::fmenu_P_Develop},
-      {"station", BoardControl::fmenu_P_Station},
-      {"all", BoardControl::fmenu_P_Tout}};
+      {"data", BoardControl::fmenu_P_Data},       {"drawing", BoardControl::fmenu_P_Dessin},
+      {"develop", BoardControl::fmenu_P_Develop}, {"station", BoardControl::fmenu_P_Station},
+      {"all", BoardControl::fmenu_P_Tout},        {"panels", BoardControl::fmenu_P_Panels}};
   const auto it = kinds.find(kind);
   if (it == kinds.end()) return std::nullopt;
   return it->second;
@@ -202,6 +201,9 @@ class PrintSteps : public board::StepHost {
       case BoardControl::fmenu_P_Tout:
         fmenu_P_Tout(job_, b_.stepIndex);
         break;
+      case BoardControl::fmenu_P_Panels:
+        fmenu_P_Panels(job_);
+        break;
       default:
         break;
     }
@@ -319,7 +321,8 @@ Register reg({"print", kUsage,
               "  nearest to --station X, else the board's), all (every sheet and table),\n"
               "  patterns (every plate and end plate at 1:1 on tiles of the paper that\n"
               "  overlap by --overlap-mm, 5 to 50, after a map of the tiles; --plates\n"
-              "  names the plates, as tolmar-cli dump lists them).\n"
+              "  names the plates, as tolmar-cli dump lists them), panels (the panel\n"
+              "  offsets of every plate, as tolmar-cli offsets gives them).\n"
               "  A4 portrait unless told; texts in English unless --lang fr.  The page\n"
               "  lies inside a margin of --margin-mm (5 mm) at 568 twips to the centimetre;\n"
               "  --calibrate gives a printer's stretch measured on the 200 mm bar of\n"

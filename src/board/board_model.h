@@ -28,7 +28,11 @@ struct BoardState {
   std::int32_t text2Background = kScreenBackground;
   float rubberX0 = 0, rubberY0 = 0, rubberX1 = 0, rubberY1 = 0, rubberXp = 0, rubberYp = 0;
 
-  bool isEnabled(BoardControl c) const { return enabled[index(c)]; }
+  // The print entries added beside the plates' sheets follow that entry.
+  bool isEnabled(BoardControl c) const {
+    const bool plates = c == BoardControl::fmenu_P_Patterns || c == BoardControl::fmenu_P_Panels;
+    return enabled[index(plates ? BoardControl::fmenu_P_Develop : c)];
+  }
   void enable(BoardControl c, bool on = true) { enabled[index(c)] = on; }
 };
 

@@ -15,6 +15,7 @@ inline constexpr double kPatternBorderMm = 5;
 // The overlap a user may ask for: the registration crosses need room.
 inline constexpr double kMinOverlapMm = 5;
 inline constexpr double kMaxOverlapMm = 50;
+inline constexpr double kPatternOverlapMm = 10;  // unless told
 
 struct PlateTiling {
   bool turned = false;  // the plate's X runs down the paper, else across
