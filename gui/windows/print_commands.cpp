@@ -1,5 +1,7 @@
 // The print menu of the board: each entry one document on the program's
 // printer, or in a PDF file when there is none; and the printer dialog.
+#include <QPrinter>
+
 #include "development/developed_plate.h"
 #include "printing/panel_offsets_report.h"
 #include "printing/pattern_pages.h"
