@@ -39,6 +39,9 @@ class DessinWindow : public QMainWindow {
   QPushButton* button(board::BoardControl c) const;
   QLineEdit* text1() const { return text1_; }
   QLineEdit* text2() const { return text2_; }
+  // The warning line over the top of the picture, shown while the hull
+  // folds (board::BoardState::folds), in the store's language.
+  QLabel* foldLine() const { return foldLine_; }
 
   // A click on a button or menu entry, or its shortcut.
   void press(board::BoardControl c);
@@ -62,6 +65,7 @@ class DessinWindow : public QMainWindow {
   void buildControls();
   void buildMenu();
   void applyLayout();
+  void placeFoldLine();
 
   Session& s_;
   board::BoardState b_;
@@ -74,6 +78,7 @@ class DessinWindow : public QMainWindow {
   QLabel* label2_ = nullptr;
   QLineEdit* text1_ = nullptr;
   QLineEdit* text2_ = nullptr;
+  QLabel* foldLine_ = nullptr;
 };
 
 }  // namespace tolmar::gui
