@@ -41,7 +41,7 @@ Register reg({"export",
               "  words of the files (en by default).  Status 1: the hull or OUT cannot be\n"
               "  read or written, with the export's error title on stderr; 2: a wrong\n"
               "  command line or a hull the screens refuse.",
-              &run});
+              &run, &exportKinds});
 
 }  // namespace
 }  // namespace tolmar::cli
