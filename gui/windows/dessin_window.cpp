@@ -160,6 +160,8 @@ void DessinWindow::buildAddedEntries() {
     view3dWindow_->raise();
     view3dWindow_->activateWindow();
   });
+  // The entries of build_menu.h after it.
+  buildMenu_ = new BuildMenu(build_, this, s_.store());
 }
 
 QPushButton* DessinWindow::button(BoardControl c) const {
@@ -206,6 +208,7 @@ void DessinWindow::syncFromModel() {
     }
   }
   for (BoardControl c : kButtons) button(c)->setText(captionOf(c, captionLangue_));
+  buildMenu_->sync(b_, captionLangue_);
   label1_->setText(captionOf(C::Label1, captionLangue_));
   label2_->setText(captionOf(C::Label2, captionLangue_));
   if (text1_->text() != qtText(b_.text1)) text1_->setText(qtText(b_.text1));
@@ -219,8 +222,7 @@ void DessinWindow::syncFromModel() {
 
   // The planks' lines are drawn: a redraw after the planking, which also
   // enables the VRML export.
-  const bool drawn =
-      b_.stepIndex >= 1 && b_.isEnabled(C::fmenu_S_VRML) && s_.store().nChines >= 1;
+  const bool drawn = b_.stepIndex >= 1 && b_.isEnabled(C::fmenu_S_VRML) && s_.store().nChines >= 1;
   const bool fr = captionLangue_ == 0;
   build_->setTitle(fr ? "Construction" : "Build");
   view3d_->setText(QString::fromUtf8(fr ? "Vue 3D…" : "3-D view…"));

@@ -13,6 +13,7 @@
 #include "board/board_layout.h"
 #include "board/board_model.h"
 #include "windows/board_commands.h"
+#include "windows/build_menu.h"
 #include "windows/hull_view_window.h"
 
 class QAction;
@@ -41,6 +42,8 @@ class DessinWindow : public QMainWindow {
   QPushButton* button(board::BoardControl c) const;
   QLineEdit* text1() const { return text1_; }
   QLineEdit* text2() const { return text2_; }
+  // The "Build" menu after the original menus.
+  BuildMenu& constructionMenu() const { return *buildMenu_; }
   // The warning line over the top of the picture, shown while the hull
   // folds (board::BoardState::folds), in the store's language.
   QLabel* foldLine() const { return foldLine_; }
@@ -86,6 +89,7 @@ class DessinWindow : public QMainWindow {
   QLabel* label2_ = nullptr;
   QLineEdit* text1_ = nullptr;
   QLineEdit* text2_ = nullptr;
+  BuildMenu* buildMenu_ = nullptr;
   QLabel* foldLine_ = nullptr;
   QMenu* build_ = nullptr;
   QAction* view3d_ = nullptr;
