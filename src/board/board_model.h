@@ -32,9 +32,12 @@ struct BoardState {
   // board shows its message as a warning line.
   FoldReport folds;
 
-  // The print entry of the development check follows Developer.
+  // The print entries added beside the plates' sheets follow that entry;
+  // the development check's follows Developer.
   bool isEnabled(BoardControl c) const {
-    return enabled[index(c == BoardControl::fmenu_P_Check ? BoardControl::Developer : c)];
+    const bool plates = c == BoardControl::fmenu_P_Patterns || c == BoardControl::fmenu_P_Panels;
+    if (c == BoardControl::fmenu_P_Check) return enabled[index(BoardControl::Developer)];
+    return enabled[index(plates ? BoardControl::fmenu_P_Develop : c)];
   }
   void enable(BoardControl c, bool on = true) { enabled[index(c)] = on; }
 };
