@@ -21,10 +21,12 @@
 #include "board/step_runner.h"
 #include "cli_session_args.h"
 #include "command.h"
+#include "hull/fold_check.h"
 #include "io/safe_write.h"
 #include "pipeline.h"
 #include "printing/paper_setup.h"
 #include "printing/print_menu.h"
+#include "printing/stability_page.h"
 #include "qtdraw/paged_surface.h"
 #include "unseen_picture.h"
 
@@ -34,12 +36,14 @@ namespace {
 using board::BoardControl;
 
 constexpr const char* kUsage =
-    "HULL.D50 data|drawing|develop|station|all OUT.pdf [--paper A4|A3|Letter] [--landscape]\n"
+    "HULL.D50 data|drawing|develop|station|all|stability OUT.pdf [--paper A4|A3|Letter] "
+    "[--landscape]\n"
     "      [--margin-mm 5] [--calibrate X,Y] [--station X] [--lang fr|en] [--auto]\n"
     "      [--set SCREEN.CONTROL=VALUE]...";
 
 struct PrintArgs {
   BoardControl entry = BoardControl::fmenu_P_Data;
+  bool stability = false;  // the Stability entry, which the board's menu does not hold
   std::string out;
   QPageSize::PageSizeId paper = QPageSize::A4;
   bool landscape = false;
@@ -111,8 +115,9 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
   }
   if (words.size() != 3) return usage("a hull file, a kind and a PDF file are needed");
   const auto entry = kindEntry(words[1]);
-  if (!entry) return usage(("no kind of print '" + words[1] + "'").c_str());
-  p.entry = *entry;
+  p.stability = words[1] == "stability";
+  if (!entry && !p.stability) return usage(("no kind of print '" + words[1] + "'").c_str());
+  if (entry) p.entry = *entry;
   p.out = words[2];
   sessionArgs.insert(sessionArgs.begin(), words[0]);
   return parseSessionArgs(sessionArgs, true, session) ? 0 : 2;
@@ -206,8 +211,18 @@ int run(const Args& args) {
     std::fprintf(stderr, "tolmar-cli print: %s\n", why.c_str());
     return 2;
   }
-  const board::Actions steps = board::press(r.board, *h, p.entry);
-  if (steps.empty()) {
+  if (p.stability) {
+    if (r.board.stepIndex < 1) {
+      std::fprintf(stderr, "tolmar-cli print: stability needs the planks of the hull\n");
+      return 2;
+    }
+    if (const FoldReport folds = checkFolds(*h); folds.folded()) {
+      std::fprintf(stderr, "tolmar-cli print: %s\n", folds.message(h->langue).c_str());
+      return 2;
+    }
+  }
+  const board::Actions steps = p.stability ? board::Actions{} : board::press(r.board, *h, p.entry);
+  if (!p.stability && steps.empty()) {
     std::fprintf(stderr, "tolmar-cli print: %s is disabled on the board\n",
                  std::string(board::controlName(p.entry)).c_str());
     return 2;
@@ -243,8 +258,12 @@ int run(const Args& args) {
     }
     PrintHost host;
     PrintJob job{surface, *h, host};
-    PrintSteps entry(job, r.board);
-    board::StepRunner(entry, *h).perform(steps);
+    if (p.stability) {
+      fmenu_P_Stability(job);
+    } else {
+      PrintSteps entry(job, r.board);
+      board::StepRunner(entry, *h).perform(steps);
+    }
   }
   file.write(std::string_view(pdf.constData(), static_cast<std::size_t>(pdf.size())));
   if (const io::WriteResult w = file.commit(); !w.ok()) {
@@ -259,7 +278,9 @@ Register reg({"print", kUsage,
               "  Opens a hull file and passes its screens as `dump` does, then runs one entry\n"
               "  of the print menu into a PDF: data (the data sheet), drawing (profile, plan\n"
               "  and sections), develop (the plates), station (the sheet of the station\n"
-              "  nearest to --station X, else the board's), all (every sheet and table).\n"
+              "  nearest to --station X, else the board's), all (every sheet and table),\n"
+              "  stability (GZ and hydrostatic curves with their tables, from the mass\n"
+              "  budget, as the board's print menu prints them).\n"
               "  A4 portrait unless told; texts in English unless --lang fr.  The page\n"
               "  lies inside a margin of --margin-mm (5 mm) at 568 twips to the centimetre;\n"
               "  --calibrate gives a printer's stretch measured on the 200 mm bar of\n"

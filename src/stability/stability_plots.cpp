@@ -133,8 +133,12 @@ void drawGzPlot(DrawingSurface& s, const PlotBox& box, const StabilityResult& r,
   if (m.gm && *m.gm > 0) {
     // The tangent at the origin reaches GM at one radian.
     const double deg = 180 / 3.141592653589793;
-    const double xEnd = std::min(a.x1, deg), yEnd = *m.gm * xEnd / deg;
-    if (yEnd <= a.y1) {
+    double xEnd = std::min(a.x1, deg), yEnd = *m.gm * xEnd / deg;
+    if (yEnd > a.y1) {  // cut at the top of the plot
+      xEnd = a.y1 / *m.gm * deg;
+      yEnd = a.y1;
+    }
+    if (xEnd > a.x0) {
       s.DrawStyle = kStyleDash;
       s.Line(a.px(0), a.py(0), a.px(xEnd), a.py(yEnd), kOrange);
       s.DrawStyle = kStyleSolid;
@@ -286,12 +290,12 @@ Table gzTable(const StabilityResult& r, int langue) {
 Table curvesTable(const std::vector<UprightRow>& rows, int langue) {
   const bool fr = langue == 0;
   Table t;
-  t.head = {"T (m)", "V (m3)", fr ? "Dépl. (t)" : "Disp. (t)",
-            "LCB",   "KB",     "Aw (m2)",
-            "LCF",   "BMt",    "BMl",
-            "KMt",   "KMl",    "TPC",
-            "MCT",   "Cb",     "Cp",
-            "Cm",    "Cwp",    fr ? "Mouillée" : "Wetted"};
+  t.head = {"T",   "V",   fr ? "Dépl." : "Disp.",
+            "LCB", "KB",  "Aw",
+            "LCF", "BMt", "BMl",
+            "KMt", "KMl", "TPC",
+            "MCT", "Cb",  "Cp",
+            "Cm",  "Cwp", fr ? "Mouil." : "Wet"};
   for (const UprightRow& r : rows)
     t.rows.push_back({fmt(r.draft), fmt(r.volume), fmt(r.displacement), fmt(r.lcb), fmt(r.kb),
                       fmt(r.waterplane), fmt(r.lcf), fmt(r.bmt, "0.00"), fmt(r.bml, "0.0"),

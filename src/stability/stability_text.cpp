@@ -93,6 +93,12 @@ Pair pair(Text t) {
       return {"Courbe GZ, assiette libre", "GZ curve, free trim"};
     case Text::curvesTable:
       return {"Courbes hydrostatiques", "Hydrostatic curves"};
+    case Text::curvesUnits:
+      return {
+          "T, KB, KMt, KMl : m au-dessus de la quille ; LCB, LCF : X en m ; V m3 ; Dépl. t ; Aw, "
+          "Mouil. m2 ; TPC t/cm ; MCT t m/cm",
+          "T, KB, KMt, KMl: m above the keel; LCB, LCF: X in m; V m3; Disp. t; Aw, Wet m2; TPC "
+          "t/cm; MCT t m/cm"};
     case Text::gm:
       return {"GM", "GM"};
     case Text::loading:

@@ -48,6 +48,7 @@ enum class Text {
   heightsNote,  // "Heights above the lowest point of the hull (keel)."
   gzTable,
   curvesTable,
+  curvesUnits,  // the units of the table's columns
   gm,
   loading,  // summary head line of the loading
 };
