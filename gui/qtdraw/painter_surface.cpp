@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QVector>
+#include <algorithm>
 #include <cmath>
 
 namespace tolmar::qtdraw {
@@ -107,14 +108,16 @@ float PainterSurface::TextHeight(std::string_view) const {
 void PainterSurface::applyPen(const DrawCall& call) {
   QPen pen(qtColour(call.colour));
   pen.setCosmetic(true);
-  const int width = call.width < 1 ? 1 : call.width;
+  const int dots = call.width < 1 ? 1 : call.width;
+  const int width = std::max(1, static_cast<int>(std::lround(dots * penScale())));
   pen.setWidth(width);
   pen.setCapStyle(Qt::FlatCap);
   pen.setJoinStyle(Qt::MiterJoin);
-  const QVector<qreal> dashes = width == 1 ? dashTwips(call.style) : QVector<qreal>{};
+  const QVector<qreal> dashes = dots == 1 ? dashTwips(call.style) : QVector<qreal>{};
   if (!dashes.isEmpty()) {
+    // A dash pattern counts in pen widths.
     QVector<qreal> d;
-    for (qreal t : dashes) d.push_back(std::max(1.0, t * scale_.dotsPerTwipX));
+    for (qreal t : dashes) d.push_back(std::max(1.0, t * scale_.dotsPerTwipX) / width);
     pen.setDashPattern(d);
   }
   if (!pen_ || *pen_ != pen) {

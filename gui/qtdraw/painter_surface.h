@@ -46,6 +46,8 @@ class PainterSurface : public DrawingSurface {
   virtual void endDoc() {}
   // Exclusive or is honoured only on raster devices.
   virtual bool rasterOps() const { return false; }
+  // Device pixels to a pen's dot of width (a picture finer than its dots).
+  virtual double penScale() const { return 1; }
   // A text about to be written with its top left corner at `topLeft`
   // (dots): false to leave it out; it may be shortened.  All are kept here.
   virtual bool fitText(QPointF topLeft, QString& text, const QFontMetricsF& fm) const;

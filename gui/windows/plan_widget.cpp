@@ -35,20 +35,28 @@ QPointF PlanWidget::toUnits(QPointF dots) const {
 }
 
 void PlanWidget::paintEvent(QPaintEvent* e) {
+  // Moved to a display of another pixel ratio, the picture takes it on.
+  if (devicePixelRatioF() != surface_->ratio()) surface_->resize(dots_, devicePixelRatioF());
   QPainter p(this);
-  const QImage image = surface_->picture();
+  QImage image = surface_->picture();
+  // The picture has ratio() pixels to a dot: painted one to one on the
+  // display's pixels.
+  const double k = surface_->ratio();
+  image.setDevicePixelRatio(k);
+  const QRect dots(0, 0, static_cast<int>(image.width() / k), static_cast<int>(image.height() / k));
   // Beyond the picture (a widget larger than its image for a moment) is white.
-  const QRegion outside = QRegion(e->rect()).subtracted(QRegion(image.rect()));
+  const QRegion outside = QRegion(e->rect()).subtracted(QRegion(dots));
   for (const QRect& r : outside) p.fillRect(r, Qt::white);
-  p.drawImage(e->rect(), image, e->rect());
+  const QRectF r = QRectF(e->rect()).intersected(dots);
+  p.drawImage(r, image, QRectF(r.topLeft() * k, r.size() * k));
 }
 
 void PlanWidget::resizeEvent(QResizeEvent*) {
   // The picture keeps what is drawn; it is not redrawn at a new size.
   const QSize dots = size().expandedTo(QSize(1, 1));
-  if (dots == dots_) return;
+  if (dots == dots_ && devicePixelRatioF() == surface_->ratio()) return;
   dots_ = dots;
-  surface_->resize(dots);
+  surface_->resize(dots, devicePixelRatioF());
 }
 
 void PlanWidget::mousePressEvent(QMouseEvent* e) {

@@ -1,7 +1,7 @@
 // The board's picture Plan1: a QImage backing store that keeps what was
 // painted until the next Cls (an expose repaints the image, it does not
-// redraw the hull), and the mouse commands of the plan (zoom box, move,
-// fit again) in drawing units of the picture.
+// redraw the hull), at the display's pixel ratio, and the mouse commands of
+// the plan (zoom box, move, fit again) in drawing units of the picture.
 #pragma once
 
 #include <QImage>
@@ -23,7 +23,9 @@ class PlanWidget : public QWidget {
   ~PlanWidget() override;
 
   DrawingSurface& surface() { return *surface_; }
+  // In the display's pixels: devicePixelRatio() of them to a dot.
   QImage picture() const { return surface_->picture(); }
+  double pictureRatio() const { return surface_->ratio(); }
   PlanMouse& mouse() { return *mouse_; }
 
   // A position in dots of the widget as drawing units of the picture.

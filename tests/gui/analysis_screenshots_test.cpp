@@ -3,7 +3,7 @@
 // on Calcul1 of mass1 to hydro1 showing the result, and from a click on
 // Develop to the patterns painted.  Pictures are written only when
 // TOLMAR_SCREENSHOTS names a folder:
-//   TOLMAR_SCREENSHOTS=docs xvfb-run -a -s "-screen 0 1600x1000x24"
+//   TOLMAR_SCREENSHOTS=docs xvfb-run -a -s "-screen 0 1366x768x24"
 //     env QT_QPA_PLATFORM=xcb build/tests/gui/analysis_screenshots_test
 #include <QDir>
 #include <QElapsedTimer>

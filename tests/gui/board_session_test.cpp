@@ -11,7 +11,9 @@
 #include "board/board_control.h"
 #include "board_session_util.h"
 #include "screens/control.h"
+#include "windows/analysis_windows.h"
 #include "windows/board_commands.h"
+#include "windows/bouchain2_window.h"
 #include "windows/field_widgets.h"
 #include "windows/file_dialog.h"
 
@@ -246,6 +248,42 @@ class BoardSessionTest : public QObject {
     QVERIFY(!p.board().button(C::Developer)->isEnabled());
     QVERIFY(test::inkedPixels(p.board().plan().picture()) > 2000);
     checkEnablingFollowsModel(p.board());
+  }
+
+  // Text1 holds the station's X with a blank in the place of its sign, on
+  // every board that loads and after DessCouple.
+  void stationFieldHasABlankForTheSign() {
+    Started p;
+    QCOMPARE(p.board().text1()->text(), QString(" 3"));
+    p.createAndValidate();
+    QCOMPARE(p.board().text1()->text(), QString(" 3"));
+    p.board().close();  // unloaded; Create loads it again
+    p.s->menu2().createButton()->click();
+    p.s->bouchain1().valider();
+    QCOMPARE(p.board().text1()->text(), QString(" 3"));
+    p.board().button(C::Command1_1)->click();
+    p.s->bouchain2().valider();
+    test::type(p.board().text1(), "1.8");
+    p.board().button(C::DessCouple)->click();
+    QCOMPARE(p.board().text1()->text(), QString(" 1.8"));
+  }
+
+  // New, then the bottom validated: Hydro stays open, since only the
+  // board's load closes it, and the mass budget runs on what the store holds.
+  void newHullLeavesHydroOpen() {
+    Started p;
+    p.createAndValidate();
+    QVERIFY(!p.board().action(C::Hmenu)->isEnabled());
+    p.board().button(C::Command1_1)->click();
+    p.s->bouchain2().valider();
+    QVERIFY(p.board().action(C::Hmenu)->isEnabled());
+    p.board().action(C::fmenu_New)->trigger();
+    p.s->bouchain1().valider();
+    QVERIFY(p.board().action(C::Hmenu)->isEnabled());
+    p.board().action(C::Hmenu)->trigger();
+    gui::Mass1Window* mass = gui::BoardWindows::of(&p.board(), p.h()).analysis().massWindow();
+    QVERIFY(mass->isVisible());
+    QVERIFY(mass->text(2, 2)->text().toDouble() > 0);  // first side plank, to zeroed line 2
   }
 
   void resizingToAnySizeKeepsTheBoard() {

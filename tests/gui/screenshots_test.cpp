@@ -1,14 +1,19 @@
 // Pictures of every window of a session, in English and in French, for the
-// documentation.  Runs only when TOLMAR_SCREENSHOTS names a folder:
-//   TOLMAR_SCREENSHOTS=docs xvfb-run -a -s "-screen 0 1600x1000x24"
+// documentation, and of the whole display with the board, hydro1 and mass1.
+// Runs only when TOLMAR_SCREENSHOTS names a folder; the documentation's are
+// taken on displays of 1366 x 768 and 1920 x 1080:
+//   TOLMAR_SCREENSHOTS=docs xvfb-run -a -s "-screen 0 1366x768x24"
 //     env QT_QPA_PLATFORM=xcb build/tests/gui/screenshots_test
 // The windows are grabbed as Qt paints them (without the window manager's
 // frame), after a real show on the display.
 #include <QDir>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 
 #include "board_session_util.h"
+#include "windows/analysis_windows.h"
+#include "windows/board_commands.h"
 #include "windows/bouchain2_window.h"
 #include "windows/bouchain3_window.h"
 
@@ -64,6 +69,19 @@ class ScreenshotsTest : public QObject {
     p.board().button(C::Command1_2)->click();
     save(p.s->bouchain3(), folder, "bouchain3" + tag);
     p.s->bouchain3().valider();
+
+    // The whole display with the board, hydro1 and mass1 as Hydro places
+    // them, named by the display's size.
+    p.board().press(C::Hmenu);
+    gui::AnalysisWindows& pair = gui::BoardWindows::of(&p.board(), p.h()).analysis();
+    QVERIFY(QTest::qWaitForWindowExposed(pair.massWindow()));
+    QVERIFY(QTest::qWaitForWindowExposed(pair.hydroWindow()));
+    QTest::qWait(200);  // placed again once shown
+    QScreen* screen = p.board().screen();
+    const QSize size = screen->size();
+    const QString name =
+        QString("screen-%1x%2%3.png").arg(size.width()).arg(size.height()).arg(tag);
+    QVERIFY(screen->grabWindow(0).save(QDir(folder).filePath(name)));
   }
 };
 
