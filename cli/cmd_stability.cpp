@@ -87,6 +87,17 @@ int parseArgs(const Args& args, StabilityArgs& a) {
         return 2;
       }
       if (!(w == "--angles" ? parseAngles(*t, a.o) : parseCrew(*t, a.o))) return 2;
+    } else if (w == "--equip-z") {
+      const std::string* t = value();
+      const std::size_t eq = t ? t->find('=') : std::string::npos;
+      double row = 0, z = 0;
+      if (eq == std::string::npos || !optionNumber(kName, w, t->substr(0, eq), row) ||
+          !optionNumber(kName, w, t->substr(eq + 1), z) || row < 13 || row > 18 ||
+          row != std::floor(row)) {
+        std::fprintf(stderr, "tolmar-cli stability: --equip-z takes ROW=Z, ROW 13..18\n");
+        return 2;
+      }
+      a.o.equipHeights[static_cast<std::size_t>(row) - 13] = z;
     } else if (w == "--mass") {
       a.massAsked = true;
     } else if (w == "--json") {
@@ -220,7 +231,8 @@ int run(const Args& args) {
 Register reg(
     {"stability",
      "(HULL.D50 | --mesh FILE.stl) [--disp M3 | --mass [--set mass1.CONTROL=VALUE]...]\n"
-     "            [--lcg X] [--kg Z] [--density 1.025] [--angles 0:180:5] [--crew KG[:Y]]\n"
+     "            [--lcg X] [--kg Z] [--equip-z ROW=Z]... [--density 1.025] [--angles 0:180:5]\n"
+     "            [--crew KG[:Y]]\n"
      "            [--json | --csv] [--auto] [--set SCREEN.CONTROL=VALUE]...",
      "  The righting-arm (GZ) curve with free trim: at each heel the draft and\n"
      "  pitch are solved so that the hull displaces the displacement with its\n"
@@ -230,11 +242,14 @@ Register reg(
      "  the hull's axes from the transom.  For a hull the displacement (m3) and\n"
      "  G come from its mass budget (mass1, --set mass1.Text3(13)=80 types into\n"
      "  it) unless --disp, --lcg, --kg are given; the displacement in m3 is the\n"
-     "  mass / (1000 x density).  A mesh (metres, X forward, Y to starboard, Z\n"
-     "  up; closed, ASCII or binary STL) needs --disp and --kg; its LCG defaults\n"
-     "  to the upright centre of buoyancy.  --crew KG[:Y]: a crew, part of the\n"
-     "  displacement, moved to Y m from the centre plane (default the half beam\n"
-     "  at the sheer at LCG): crew_heel_deg and the lowest freeboard there.\n"
+     "  mass / (1000 x density).  Each plate of the budget stands at the centre of\n"
+     "  its own area on the hull; an equipment row (13..18) on the keel at its X\n"
+     "  unless --equip-z ROW=Z gives its height.  A mesh (metres, X forward, Y to\n"
+     "  starboard, Z up; closed, ASCII or binary STL) needs --disp and --kg; its\n"
+     "  LCG defaults to the upright centre of buoyancy.  --crew KG[:Y]: a crew,\n"
+     "  part of the displacement, moved to Y m from the centre plane (default the\n"
+     "  half beam at the sheer at LCG): crew_heel_deg and the lowest freeboard\n"
+     "  there.\n"
      "  JSON (default): gz rows (heel_deg, gz_m, draft_m = depth of the deepest\n"
      "  point, pitch_deg bow down, righting_moment_kgm, freeboard_m; null where\n"
      "  the hull cannot float: floats false), gm_m, max_gz_m, max_gz_deg,\n"

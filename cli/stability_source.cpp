@@ -7,29 +7,11 @@
 #include "analysis/mass_screen.h"
 #include "cli_session_args.h"
 #include "hull/fold_check.h"
+#include "mass_sets.h"
 #include "screens/control.h"
 #include "stability/stl_mesh.h"
 
 namespace tolmar::cli {
-
-namespace {
-
-using analysis::Mass1;
-
-bool typeIntoMass(Mass1& m, const SetValue& v) {
-  ControlArray<0, analysis::kLastMassRow>* column = v.control == "Text1"   ? &m.Text1
-                                                    : v.control == "Text2" ? &m.Text2
-                                                    : v.control == "Text3" ? &m.Text3
-                                                    : v.control == "Text4" ? &m.Text4
-                                                                           : nullptr;
-  if (!column || !v.hasValue || v.index < 0 || v.index > analysis::kLastMassRow ||
-      !(*column)(v.index).visible)
-    return false;
-  (*column)(v.index).text = v.value;
-  return true;
-}
-
-}  // namespace
 
 bool optionNumber(const char* command, const std::string& option, const std::string& text,
                   double& out) {
@@ -94,7 +76,7 @@ int loadStabilitySource(const char* command, const Args& words, StabilitySource&
     std::fprintf(stderr, "tolmar-cli %s: %s\n", command, folds.message(1).c_str());
     return 2;
   }
-  Mass1 mass;
+  analysis::Mass1 mass;
   analysis::loadMass(mass, *out.hull);
   analysis::massActivated(mass, *out.hull);
   for (const SetValue& v : massSets)

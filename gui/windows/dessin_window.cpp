@@ -10,7 +10,9 @@
 #include <QMenuBar>
 #include <QPushButton>
 
+#include "windows/board_commands.h"
 #include "windows/busy_cursor.h"
+#include "windows/command_steps.h"
 #include "windows/field_widgets.h"
 #include "windows/plan_widget.h"
 #include "windows/session.h"
@@ -113,6 +115,14 @@ void DessinWindow::buildMenu() {
     }
     actions_[board::index(e.control)] = a;
   }
+  // "Stability" at the end of the print menu: pages of this program's own.
+  if (QMenu* printMenu = actions_[board::index(C::fmenu_Print)]->menu()) {
+    printStability_ = printMenu->addAction(QString());
+    printStability_->setObjectName("fmenu_P_Stability");
+    connect(printStability_, &QAction::triggered, this,
+            [this] { printStabilityEntry(BoardWindows::of(this, s_.store()), s_.store()); });
+  }
+  buildMenu_ = new BuildMenu(menuBar(), this, s_.store());
 }
 
 QPushButton* DessinWindow::button(BoardControl c) const {
@@ -151,6 +161,11 @@ void DessinWindow::syncFromModel() {
     }
   }
   for (BoardControl c : kButtons) button(c)->setText(captionOf(c, captionLangue_));
+  buildMenu_->sync(b_, captionLangue_);
+  if (printStability_) {
+    printStability_->setText(captionLangue_ == 0 ? QString::fromUtf8("Stabilité") : "Stability");
+    printStability_->setEnabled(b_.stepIndex >= 1 && b_.isEnabled(C::fmenu_P_Tout));
+  }
   label1_->setText(captionOf(C::Label1, captionLangue_));
   label2_->setText(captionOf(C::Label2, captionLangue_));
   if (text1_->text() != qtText(b_.text1)) text1_->setText(qtText(b_.text1));

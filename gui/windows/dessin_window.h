@@ -12,6 +12,7 @@
 #include "board/board_layout.h"
 #include "board/board_model.h"
 #include "windows/board_commands.h"
+#include "windows/build_menu.h"
 
 class QAction;
 class QLabel;
@@ -39,6 +40,8 @@ class DessinWindow : public QMainWindow {
   QPushButton* button(board::BoardControl c) const;
   QLineEdit* text1() const { return text1_; }
   QLineEdit* text2() const { return text2_; }
+  // The "Build" menu after the original menus.
+  BuildMenu& buildMenuOf() const { return *buildMenu_; }
 
   // A click on a button or menu entry, or its shortcut.
   void press(board::BoardControl c);
@@ -74,6 +77,8 @@ class DessinWindow : public QMainWindow {
   QLabel* label2_ = nullptr;
   QLineEdit* text1_ = nullptr;
   QLineEdit* text2_ = nullptr;
+  QAction* printStability_ = nullptr;  // the print menu's "Stability"
+  BuildMenu* buildMenu_ = nullptr;
 };
 
 }  // namespace tolmar::gui

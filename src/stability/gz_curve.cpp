@@ -149,31 +149,40 @@ StabilitySummary summarize(const HydroMesh& m, const Loading& load,
     s.gm = upright.body.plane.iAlong / load.volume +
            dot(upright.body.buoyancy - load.g, upright.frame.up);
 
-  // The largest arm: the best point, moved to the top of the parabola
-  // through it and its neighbours and solved there.
+  // The largest arm: the best point, then a golden-section search between
+  // its neighbours on the curve, solved at every angle it tries.
   int best = -1;
   for (int i = 0; i < static_cast<int>(curve.size()); ++i)
     if (curve[i].floats && (best < 0 || curve[i].gz > curve[best].gz)) best = i;
   if (best >= 0) {
     s.maxGz = curve[best].gz;
     s.maxGzHeel = curve[best].heel;
-    if (best > 0 && best + 1 < static_cast<int>(curve.size()) && curve[best - 1].floats &&
-        curve[best + 1].floats) {
-      const double x0 = curve[best - 1].heel, x1 = curve[best].heel, x2 = curve[best + 1].heel;
-      const double y0 = curve[best - 1].gz, y1 = curve[best].gz, y2 = curve[best + 1].gz;
-      const double den = (x1 - x0) * (y1 - y2) - (x1 - x2) * (y1 - y0);
-      if (den != 0) {
-        const double top = std::clamp(
-            x1 -
-                0.5 * ((x1 - x0) * (x1 - x0) * (y1 - y2) - (x1 - x2) * (x1 - x2) * (y1 - y0)) / den,
-            x0, x2);
-        const double gz = r.gz(top, load.g);
-        if (std::isfinite(gz) && gz > *s.maxGz) {
-          s.maxGz = gz;
-          s.maxGzHeel = top;
-        }
+    const int n = static_cast<int>(curve.size());
+    double a = curve[std::max(best - 1, 0)].heel, b = curve[std::min(best + 1, n - 1)].heel;
+    const double k = (std::sqrt(5.0) - 1) / 2;
+    double c = b - k * (b - a), d = a + k * (b - a);
+    double fc = r.gz(c, load.g), fd = r.gz(d, load.g);
+    for (int it = 0; it < 30 && b - a > kAngleTolerance && std::isfinite(fc) && std::isfinite(fd);
+         ++it) {
+      if (fc > fd) {
+        b = d;
+        d = c;
+        fd = fc;
+        c = b - k * (b - a);
+        fc = r.gz(c, load.g);
+      } else {
+        a = c;
+        c = d;
+        fc = fd;
+        d = a + k * (b - a);
+        fd = r.gz(d, load.g);
       }
     }
+    for (auto [deg, gz] : {std::pair{c, fc}, std::pair{d, fd}})
+      if (std::isfinite(gz) && gz > *s.maxGz) {
+        s.maxGz = gz;
+        s.maxGzHeel = deg;
+      }
   }
 
   // Vanishing stability: the first fall to 0 after the arm has been positive.

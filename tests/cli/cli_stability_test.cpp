@@ -51,10 +51,11 @@ std::string tempFile(const std::string& name, const std::string& text) {
 }
 
 void allFinite(const json& j) {
-  if (j.is_object() || j.is_array())
+  if (j.is_object() || j.is_array()) {
     for (const json& v : j) allFinite(v);
-  else if (j.is_number())
+  } else if (j.is_number()) {
     EXPECT_TRUE(std::isfinite(j.get<double>()));
+  }
 }
 
 TEST(CliStability, DefaultHullWithItsMassBudgetAndACrew) {
@@ -84,6 +85,25 @@ TEST(CliStability, DefaultHullWithItsMassBudgetAndACrew) {
   EXPECT_EQ(csv.out.rfind("heel_deg,floats,gz_m,draft_m,pitch_deg,righting_moment_kgm,", 0), 0u);
   EXPECT_NE(csv.out.find("\n90,1,"), std::string::npos);
   EXPECT_NE(csv.out.find("\ngm_m,"), std::string::npos);
+}
+
+TEST(CliStability, AnEngineTypedIntoTheMassBudgetAndLifted) {
+  // 40 kg at X = 1 m: on the keel, then 1 m above it; G rises by 40 x
+  // (1 - its height on the keel) / total.
+  const std::string engine = " --set 'mass1.Text3(13)=40' --set 'mass1.Text4(13)=1'";
+  const CliRun low = runCli("stability " + kDefaultHull + engine + " --angles 0:10:5");
+  const CliRun high =
+      runCli("stability " + kDefaultHull + engine + " --equip-z 13=1 --angles 0:10:5");
+  ASSERT_EQ(low.status, 0) << low.err;
+  ASSERT_EQ(high.status, 0) << high.err;
+  const json a = json::parse(low.out), b = json::parse(high.out);
+  double keel = -1;
+  for (const json& row : a["mass_rows"])
+    if (row["row"] == 13) keel = row["z_m"].get<double>();
+  ASSERT_GE(keel, 0);
+  EXPECT_NEAR(b["kg_m"].get<double>() - a["kg_m"].get<double>(),
+              40 * (1 - keel) / a["displacement_kg"].get<double>(), 1e-3);
+  EXPECT_EQ(runCli("stability " + kDefaultHull + " --equip-z 12=1").status, 2);
 }
 
 TEST(CliStability, BoxBargeFromAnStlFile) {
