@@ -89,19 +89,13 @@ void BM_DeckFile(benchmark::State& state) {
 }
 BENCHMARK(BM_DeckFile)->Unit(benchmark::kMillisecond);
 
-// The XYZ files of fmenu_SD_XYZ: each plate developed, then written.
+// The XYZ files of fmenu_SD_XYZ: every plate developed, then written.
 void BM_PlateXyzAll(benchmark::State& state) {
   writeInto(state, [](TextSink& o) {
     HullStore& h = hull();
-    developBottom(h);
-    writePlankXyz(o, h, 0, kBottomLastPoint);
-    for (int n = 1; n <= h.nChines - 1; ++n) {
-      developPlank(h, n);
-      writePlankXyz(o, h, n, kPlankLastPoint);
-    }
-    for (int n = 1; n <= h.nChines; ++n) {
-      developDeck(h, n);
-      writeDeckXyz(o, h, n);
+    for (const DevelopedPlate& p : developAll(h)) {
+      if (p.kind == PlateKind::bottom || p.kind == PlateKind::plank) writePlankXyz(o, h, p);
+      if (p.kind == PlateKind::deck) writeDeckXyz(o, h, p);
     }
     calcTransomPlate(h);
     writeTransomXyz(o, h);
@@ -125,15 +119,9 @@ void BM_EveryExport(benchmark::State& state) {
     writeVrml(o, h);
     writePlateFile(o, h, h.nChines - 1, true);
     writeDeckFile(o, h, h.nChines);
-    developBottom(h);
-    writePlankXyz(o, h, 0, kBottomLastPoint);
-    for (int n = 1; n <= h.nChines - 1; ++n) {
-      developPlank(h, n);
-      writePlankXyz(o, h, n, kPlankLastPoint);
-    }
-    for (int n = 1; n <= h.nChines; ++n) {
-      developDeck(h, n);
-      writeDeckXyz(o, h, n);
+    for (const DevelopedPlate& p : developAll(h)) {
+      if (p.kind == PlateKind::bottom || p.kind == PlateKind::plank) writePlankXyz(o, h, p);
+      if (p.kind == PlateKind::deck) writeDeckXyz(o, h, p);
     }
     calcTransomPlate(h);
     writeTransomXyz(o, h);

@@ -49,6 +49,12 @@ bool parseSessionArgs(const Args& args, bool allowAuto, SessionArgs& out) {
 void printWarnings(const PipelineResult& r) {
   for (const Replacement& w : r.warnings)
     std::fprintf(stderr, "replaced: %s\n", describe(w).c_str());
+  printFolds(r.board.folds, r.langue);
+}
+
+void printFolds(const FoldReport& folds, int langue) {
+  for (const FoldStretch& s : folds.stretches)
+    std::fprintf(stderr, "warning: %s\n", foldSentence(s, langue).c_str());
 }
 
 }  // namespace tolmar::cli

@@ -20,7 +20,10 @@ struct SessionArgs {
 // "--set X" and "--set=X" are both taken.
 bool parseSessionArgs(const Args& args, bool allowAuto, SessionArgs& out);
 
-// Every replaced field, one line each, on stderr.
+// Every replaced field, then every stretch where the hull folds, one line
+// each, on stderr.
 void printWarnings(const PipelineResult& r);
+// Only the folds: "warning: Plank 1 folds under line 1 from X = ...".
+void printFolds(const FoldReport& folds, int langue);
 
 }  // namespace tolmar::cli

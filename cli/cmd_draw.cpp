@@ -11,6 +11,7 @@
 #include <string>
 
 #include "analysis/hydro_screen.h"
+#include "cli_session_args.h"
 #include "command.h"
 #include "pipeline.h"
 #include "qtdraw/hull_picture.h"
@@ -121,6 +122,7 @@ int run(const Args& args) {
     std::fprintf(stderr, "tolmar-cli draw: %s\n", r.error.c_str());
     return r.status;
   }
+  printFolds(r.board.folds, r.langue);
   pic.stepIndex = r.board.stepIndex;
   if (pic.waterline) runHydro(*h, zwl, disp);
 

@@ -17,6 +17,18 @@ namespace {
 
 using nlohmann::json;
 
+const char* foldKindName(FoldKind k) {
+  switch (k) {
+    case FoldKind::under:
+      return "under";
+    case FoldKind::narrow:
+      return "narrow";
+    case FoldKind::across:
+      return "across";
+  }
+  return "under";
+}
+
 // Rows 0..82 of a station table, section points 0..nChines + 9.
 json stationRows(const StationTable& t, int lastColumn) {
   json rows = json::array();
@@ -46,9 +58,17 @@ json dumpDocument(HullStore& h, const PipelineResult& r) {
   for (const Replacement& w : r.warnings)
     warnings.push_back(
         {{"screen", w.screen}, {"control", w.control}, {"typed", w.typed}, {"kept", w.kept}});
+  for (const FoldStretch& f : r.board.folds.stretches)
+    warnings.push_back({{"fold", foldKindName(f.kind)},
+                        {"plank", f.plank},
+                        {"line", f.line},
+                        {"fromPoint", f.fromPoint},
+                        {"toPoint", f.toPoint},
+                        {"fromX", f.fromX},
+                        {"toX", f.toX},
+                        {"depth", f.depth},
+                        {"message", foldSentence(f, r.langue)}});
   j["warnings"] = std::move(warnings);
-  // Developing overwrites only the dev and end-plate arrays, which nothing
-  // above has printed.
   const json plates = platesJson(h);
   for (auto it = plates.begin(); it != plates.end(); ++it) j[it.key()] = it.value();
   return j;
@@ -79,8 +99,10 @@ Register reg({"dump", "HULL.D50 [--auto] [--set SCREEN.CONTROL=VALUE]...",
               "  with --auto or for more than six lines, redraws the board, and prints the\n"
               "  store as JSON with stepIndex, stationX/Y/Z (83 rows of nChines + 10 points),\n"
               "  bevelAngle (lines 1..nChines, points 0..82), the developed plates, decks\n"
-              "  and end plates, and the replaced fields as warnings.  Status 1: the file\n"
-              "  cannot be read; 2: a screen does not pass.",
+              "  and end plates, and as warnings the replaced fields and every stretch where\n"
+              "  the hull folds (fold: under, narrow or across; plank, line, fromPoint,\n"
+              "  toPoint, fromX, toX, depth in m, message), also on stderr.  Status 1: the\n"
+              "  file cannot be read; 2: a screen does not pass.",
               &run});
 
 }  // namespace

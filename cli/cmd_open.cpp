@@ -3,8 +3,10 @@
 #include <cstdio>
 #include <memory>
 
+#include "cli_session_args.h"
 #include "command.h"
 #include "hull/default_hull.h"
+#include "hull/fold_check.h"
 #include "hull/hull_file.h"
 #include "json_dump.h"
 #include "store_json.h"
@@ -25,6 +27,7 @@ int run(const tolmar::cli::Args& args) {
     std::fprintf(stderr, "tolmar-cli open: %s: %s\n", args[0].c_str(), r.message.c_str());
     return 1;
   }
+  tolmar::cli::printFolds(tolmar::checkFolds(*h), 1);  // English, as the other commands
   const std::string text = tolmar::cli::dumpJson(tolmar::cli::storeJson(*h)) + "\n";
   std::fwrite(text.data(), 1, text.size(), stdout);
   return 0;
@@ -34,7 +37,8 @@ tolmar::cli::Register reg(
     {"open", "HULL.D50",
      "  Reads a hull file (.D50, or an old .D51 or older layout), rebuilds its\n"
      "  lines and prints the store as JSON: inputs, control values, planes,\n"
-     "  line points and bottom edges, doubles to 17 digits.",
+     "  line points and bottom edges, doubles to 17 digits.  Where the hull\n"
+     "  folds is told on stderr.",
      &run});
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "board/board_model.h"
+#include "cli_session_args.h"
 #include "development/end_plates.h"
 #include "export/end_plates_dxf.h"
 #include "export/lines_dxf.h"
@@ -105,6 +106,7 @@ int prepareForExport(HullStore& h, const ExportArgs& a, PipelineResult& r) {
     return r.status;
   }
   h.langue = static_cast<i16>(a.langue);
+  printFolds(r.board.folds, h.langue);
   return 0;
 }
 

@@ -136,6 +136,7 @@ PipelineResult Session::run() {
       return r_;
     }
     board::openNamed(r_.board, h_);
+    board::checkHull(r_.board, h_);
     if (!perform(board::openBeforeRebuild(r_.board)) || !perform(board::openAfterRebuild(r_.board)))
       return r_;
   } else if (!perform(screens::createClick(r_.board, h_))) {
@@ -161,6 +162,7 @@ PipelineResult Session::run() {
     return r_;
   }
   perform(pressed);
+  r_.langue = h_.langue;
   return r_;
 }
 

@@ -44,6 +44,7 @@ struct PipelineResult {
   std::string error;  // why, when status != 0
   board::BoardState board;
   Replacements warnings;  // every field a validation replaced, in order
+  int langue = 1;         // of the store at the end, for the fold messages (board.folds)
 };
 
 // The display the windows are laid out on: 1920 x 1080 pixels at 15 twips

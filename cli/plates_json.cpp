@@ -2,24 +2,27 @@
 
 #include <algorithm>
 
-#include "development/calc_develop.h"
-#include "development/deck_develop.h"
+#include "development/developed_plate.h"
 #include "development/end_plates.h"
 
 namespace tolmar::cli {
 
 namespace {
 
-nlohmann::json devEdges(const HullStore& h, int last) {
+nlohmann::json devEdges(const DevelopedPlate& p) {
   nlohmann::json xi = nlohmann::json::array(), yi = nlohmann::json::array(),
                  xs = nlohmann::json::array(), ys = nlohmann::json::array();
-  for (int i = 0; i <= last; ++i) {
-    xi.push_back(h.devXi(i));
-    yi.push_back(h.devYi(i));
-    xs.push_back(h.devXs(i));
-    ys.push_back(h.devYs(i));
+  for (std::size_t i = 0; i < p.lower.size(); ++i) {
+    xi.push_back(p.lower[i].x);
+    yi.push_back(p.lower[i].y);
+    xs.push_back(p.upper[i].x);
+    ys.push_back(p.upper[i].y);
   }
-  return {{"lastPoint", last}, {"devXi", xi}, {"devYi", yi}, {"devXs", xs}, {"devYs", ys}};
+  return {{"lastPoint", static_cast<int>(p.lower.size()) - 1},
+          {"devXi", xi},
+          {"devYi", yi},
+          {"devXs", xs},
+          {"devYs", ys}};
 }
 
 nlohmann::json endPlate(const HullStore& h, const EndPlate& p) {
@@ -33,36 +36,26 @@ nlohmann::json endPlate(const HullStore& h, const EndPlate& p) {
 
 }  // namespace
 
-nlohmann::json platesJson(HullStore& h) {
-  // Lines beyond the tables cannot be developed: held to 1..25.
-  const int top = std::clamp<int>(h.nChines, 1, kMaxLine);
-
+nlohmann::json platesJson(const HullStore& h) {
   nlohmann::json plates = nlohmann::json::array();
-  developBottom(h);
-  auto bottom = devEdges(h, kBottomLastPoint);
-  bottom["plate"] = 0;
-  plates.push_back(bottom);
-  for (int k = 1; k <= top - 1; ++k) {
-    developPlank(h, k);
-    auto plank = devEdges(h, kPlankLastPoint);
-    plank["plate"] = k;
-    plates.push_back(plank);
-  }
-
   nlohmann::json decks = nlohmann::json::array();
-  for (int k = 1; k <= top; ++k) {
-    developDeck(h, k);
-    auto deck = devEdges(h, kPlankLastPoint);
-    deck["line"] = k;
-    decks.push_back(deck);
+  for (const DevelopedPlate& p : developAll(h)) {
+    if (p.kind == PlateKind::bottom || p.kind == PlateKind::plank) {
+      auto plate = devEdges(p);
+      plate["plate"] = p.index;
+      plates.push_back(plate);
+    } else if (p.kind == PlateKind::deck) {
+      auto deck = devEdges(p);
+      deck["line"] = p.index;
+      decks.push_back(deck);
+    }
   }
-
-  calcTransomPlate(h);
-  calcBowPlate(h);
+  // The bow plate of any hull, as the plate file computes it; it means
+  // something only with a pram bow.
   return {{"plates", plates},
           {"decks", decks},
-          {"transomPlate", endPlate(h, h.transomPlate)},
-          {"bowPlate", endPlate(h, h.bowPlate)},
+          {"transomPlate", endPlate(h, transomPlateOf(h))},
+          {"bowPlate", endPlate(h, bowPlateOf(h))},
           {"pramBow", hasPramBow(h)}};
 }
 

@@ -7,8 +7,8 @@
 //             over section points 0..nChines+9;
 //   "pramBow": whether the bow plate is a real panel (yFwd(1) > 0.001); it
 //             is computed from station row 82 in either case.
-// Metres.  Needs validated lines, iMaxBeam and current stations; it
-// overwrites the store's dev, transomPlate and bowPlate arrays.
+// Metres.  Needs validated lines, iMaxBeam and current stations; the store
+// is not changed.
 #pragma once
 
 #include <nlohmann/json.hpp>
@@ -17,6 +17,6 @@
 
 namespace tolmar::cli {
 
-nlohmann::json platesJson(HullStore& h);
+nlohmann::json platesJson(const HullStore& h);
 
 }  // namespace tolmar::cli

@@ -63,6 +63,7 @@ void openHull(BoardWindows& w, HullStore& h, board::BoardState& b, const BoardHo
   read.reset();
 
   board::openNamed(b, h);
+  board::checkHull(b, h);
   refresh(hooks);
   perform(hooks, board::openBeforeRebuild(b));
   const board::Actions next = board::openAfterRebuild(b);

@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 
+#include "board/fold_drawing.h"
 #include "windows/board_commands.h"
 #include "windows/busy_cursor.h"
 #include "windows/command_steps.h"
@@ -81,6 +82,16 @@ void DessinWindow::buildControls() {
   connect(text2_, &QLineEdit::textEdited, this,
           [this](const QString& t) { b_.text2 = t.toStdString(); });
   connect(text2_, &QLineEdit::returnPressed, this, &DessinWindow::text2Enter);
+  // Not one of the screen's controls: a line of its own over the picture.
+  foldLine_ = new QLabel(central);
+  foldLine_->setObjectName("foldLine");
+  foldLine_->setAutoFillBackground(true);
+  foldLine_->setMargin(4);
+  QPalette p = foldLine_->palette();
+  p.setColor(QPalette::Window, qtColor(kFoldColour));
+  p.setColor(QPalette::WindowText, Qt::black);
+  foldLine_->setPalette(p);
+  foldLine_->hide();
 }
 
 void DessinWindow::buildMenu() {
@@ -148,6 +159,14 @@ void DessinWindow::applyLayout() {
   place(button(C::Cancel), t, l.cancel);
   place(button(C::dessine), t, l.dessine);
   place(button(C::Developer), t, l.developer);
+  placeFoldLine();
+}
+
+void DessinWindow::placeFoldLine() {
+  const QRect picture = plan_->geometry();
+  foldLine_->setGeometry(picture.left(), picture.top(), picture.width(),
+                         foldLine_->sizeHint().height());
+  foldLine_->raise();
 }
 
 void DessinWindow::syncFromModel() {
@@ -176,6 +195,13 @@ void DessinWindow::syncFromModel() {
                                  ? palette().color(QPalette::Window)
                                  : qtColor(b_.text2Background));
   text2_->setPalette(p);
+
+  const QString folds = qtText(b_.folds.message(s_.store().langue));
+  if (folds != foldLine_->text()) {
+    foldLine_->setText(folds);
+    placeFoldLine();
+  }
+  foldLine_->setVisible(!folds.isEmpty());
 }
 
 void DessinWindow::press(BoardControl c) { s_.perform(board::press(b_, s_.store(), c)); }

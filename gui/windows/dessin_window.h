@@ -42,6 +42,9 @@ class DessinWindow : public QMainWindow {
   QLineEdit* text2() const { return text2_; }
   // The "Build" menu after the original menus.
   BuildMenu& buildMenuOf() const { return *buildMenu_; }
+  // The warning line over the top of the picture, shown while the hull
+  // folds (board::BoardState::folds), in the store's language.
+  QLabel* foldLine() const { return foldLine_; }
 
   // A click on a button or menu entry, or its shortcut.
   void press(board::BoardControl c);
@@ -65,6 +68,7 @@ class DessinWindow : public QMainWindow {
   void buildControls();
   void buildMenu();
   void applyLayout();
+  void placeFoldLine();
 
   Session& s_;
   board::BoardState b_;
@@ -79,6 +83,7 @@ class DessinWindow : public QMainWindow {
   QLineEdit* text2_ = nullptr;
   QAction* printStability_ = nullptr;  // the print menu's "Stability"
   BuildMenu* buildMenu_ = nullptr;
+  QLabel* foldLine_ = nullptr;
 };
 
 }  // namespace tolmar::gui

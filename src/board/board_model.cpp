@@ -146,7 +146,10 @@ Actions endOfBouchain3(BoardState& b, const HullStore& h) {
   return out;
 }
 
+void checkHull(BoardState& b, const HullStore& h) { b.folds = checkFolds(h); }
+
 Action afterRedraw(BoardState& b, const HullStore& h) {
+  b.folds = b.stepIndex >= 1 ? checkFolds(h) : checkFoldsUpTo(h, 1);
   if (b.stepIndex >= 1) {
     set(b,
         {C::Developer, C::DessCouple, C::fmenu_P_Tout, C::fmenu_P_Develop, C::fmenu_S_XYZ,

@@ -10,6 +10,7 @@
 
 #include "board/board_action.h"
 #include "board/board_control.h"
+#include "hull/fold_check.h"
 #include "hull/hull_store.h"
 
 namespace tolmar::board {
@@ -27,6 +28,9 @@ struct BoardState {
   std::string text2;  // the name of the hull
   std::int32_t text2Background = kScreenBackground;
   float rubberX0 = 0, rubberY0 = 0, rubberX1 = 0, rubberY1 = 0, rubberXp = 0, rubberYp = 0;
+  // Where the hull folds, as found after the last redraw or opening; the
+  // board shows its message as a warning line.
+  FoldReport folds;
 
   bool isEnabled(BoardControl c) const { return enabled[index(c)]; }
   void enable(BoardControl c, bool on = true) { enabled[index(c)] = on; }
@@ -57,8 +61,14 @@ Actions endOfBouchain2(BoardState& b);
 Actions endOfBouchain3(BoardState& b, const HullStore& h);
 
 // The enabling at the end of a redraw, by stepIndex and nChines; returns
-// the step that moves the focus.
+// the step that moves the focus.  The fold check runs here too (checkHull),
+// since every validation of a hull screen ends in a redraw.
 Action afterRedraw(BoardState& b, const HullStore& h);
+// folds = checkFolds(h) when a file has been opened (all its lines are
+// built) and after a redraw with stepIndex >= 1; after a redraw of the
+// bottom alone (stepIndex 0) only the bottom is checked, since the lines
+// above it are not yet built for it.
+void checkHull(BoardState& b, const HullStore& h);
 // dessine is disabled while lines or sections are drawn.
 void drawingStarted(BoardState& b);
 void drawingEnded(BoardState& b);

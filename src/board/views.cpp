@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "board/fold_drawing.h"
+#include "hull/fold_check.h"
 #include "hull/stations.h"
 #include "text/number_format.h"
 
@@ -22,6 +24,7 @@ void redrawViews(DrawingSurface& s, const HullStore& h, int stepIndex) {
     drawLines(s, h, k);
     drawSections(s, h, k);
   }
+  drawFolds(s, h, stepIndex >= 1 ? checkFolds(h) : checkFoldsUpTo(h, 1), stepIndex);
 }
 
 void dessine(DrawingSurface& s, HullStore& h, int stepIndex) {
@@ -37,6 +40,7 @@ void dessine(DrawingSurface& s, HullStore& h, int stepIndex) {
     drawLines(s, h, k);
     drawSections(s, h, k);
   }
+  drawFolds(s, h, stepIndex >= 1 ? checkFolds(h) : checkFoldsUpTo(h, 1), stepIndex);
 }
 
 }  // namespace tolmar

@@ -19,7 +19,8 @@ void drawLines(DrawingSurface& s, const HullStore& h, int k);
 // 81 and 82 on the - side; k > 0 adds the planks.
 void drawSections(DrawingSurface& s, const HullStore& h, int k);
 
-// drawGrid, then drawLines(k) and drawSections(k) for k = 0..stepIndex.
+// drawGrid, then drawLines(k) and drawSections(k) for k = 0..stepIndex, and
+// over them any stretch where the hull folds (drawFolds).
 void redrawViews(DrawingSurface& s, const HullStore& h, int stepIndex);
 
 // The full redraw of the board: Cls, the view fitted to the surface

@@ -87,11 +87,9 @@ DevelopedPlate sidePlate(const HullStore& h, int n) {
   const int upTo = n == 0 ? h.iMaxBeam - 1 : 81;
   for (int i = 1; i <= upTo; i += 4) p.upperTicks.push_back(i);
   p.thickness = std::max(0.0, h.plankThick(std::clamp(n, 0, kMaxLine)));
-  if (h.overlapMode == 2) {
-    if (n > 0)
-      for (int i = 0; i <= kPlankLastPoint; ++i) p.lap = std::max(p.lap, h.overlapWidth(n, i));
-    takeCut(p, h, d, last);
-  }
+  if (n > 0)
+    for (int i = 0; i <= kPlankLastPoint; ++i) p.lap = std::max(p.lap, h.overlapWidth(n, i));
+  takeCut(p, h, d, last);
   measure(p);
   return p;
 }

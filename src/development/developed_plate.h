@@ -47,12 +47,14 @@ struct DevelopedPlate {
   double area = 0, length = 0, width = 0;
 
   // From the thickness screen, metres; 0 when it has not set them.  lap:
-  // the largest lap width on the lower edge (planks of a lap-strake hull).
+  // the largest lap width on the lower edge.
   double thickness = 0;
   double lap = 0;
   // The outline with the lap-strake material (the lower edge moved out by
   // the lap, the ends by the transom and bow thickness) exactly as the
-  // lap-strake plate file draws it; empty for the decks and end plates.
+  // lap-strake plate file draws it, whenever the thickness screen's values
+  // add material; empty otherwise and for the decks and end plates.  The
+  // lap-strake choice of that screen (overlapMode 2) says whether to cut it.
   std::vector<FlatPoint> cutLower, cutUpper;
 
   // Closed outline: lower edge forward, upper edge back (no repeated

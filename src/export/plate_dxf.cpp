@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "development/calc_develop.h"
-#include "development/deck_develop.h"
+#include "development/developed_plate.h"
 #include "development/end_plates.h"
-#include "export/end_plates_dxf.h"
 #include "development/plate_cut.h"
+#include "export/end_plates_dxf.h"
 #include "export/polyline_out.h"
 #include "export/stroke_font.h"
 #include "text/number_format.h"
@@ -34,10 +33,10 @@ struct SheetState {
   void next() { sheetOff = maxDevY * 1.05 + sheetOff + maxDevX * 0.05; }
 };
 
-double nameAngle(const HullStore& h) {
-  const double a = std::atan((h.devYi(kNameTo) - h.devYi(kNameFrom)) /
-                             (h.devXi(kNameTo) + 0.0001 - h.devXi(kNameFrom)));
-  return std::isfinite(a) ? a : 0.0;
+double nameAngle(const DevelopedPlate& p) {
+  const FlatPoint a = p.lower[kNameFrom], b = p.lower[kNameTo];
+  const double t = std::atan((b.y - a.y) / (b.x + 0.0001 - a.x));
+  return std::isfinite(t) ? t : 0.0;
 }
 
 // Lower edge out, upper edge back, closed on the first point; every Y
@@ -61,47 +60,44 @@ void tick(TextSink& out, i16 colour, double x, double y, double dir) {
   p.vertex(x, y + dir * 0.01);
 }
 
-void plate(TextSink& out, HullStore& h, SheetState& s, int n, bool lap) {
-  int last = kPlankLastPoint;
-  if (n == 0) {
-    developBottom(h);
-    last = kBottomLastPoint;
-  } else {
-    developPlank(h, n);
-  }
-  const CutOutline cut = lap ? cutOutline(h, n, last) : CutOutline{};
+void plate(TextSink& out, const HullStore& h, SheetState& s, int n, bool lap) {
+  const DevelopedPlate d = developPlate(h, n == 0 ? PlateKind::bottom : PlateKind::plank, n);
+  const int last = static_cast<int>(d.lower.size()) - 1;
+  const std::vector<FlatPoint>& cutLow = d.cutLower.empty() ? d.lower : d.cutLower;
+  const std::vector<FlatPoint>& cutUp = d.cutUpper.empty() ? d.upper : d.cutUpper;
 
   const auto size = static_cast<float>(h.xFwd(1) / 150 + 0.002);
   const auto layer = static_cast<i16>(n + 1);
-  dxfText(out, "p" + formatNumber(n, "00"), size, h.devXi(kNameFrom),
-          size / 2 + h.devYi(kNameFrom) + s.sheetOff, nameAngle(h), layer, 7);
+  dxfText(out, d.name, size, d.lower[kNameFrom].x, size / 2 + d.lower[kNameFrom].y + s.sheetOff,
+          nameAngle(d), layer, 7);
 
   const auto c = static_cast<i16>(7 - n % 3);
-  auto low = [&](int i) { return FlatPoint{h.devXi(i), h.devYi(i)}; };
-  auto up = [&](int i) { return FlatPoint{h.devXs(i), h.devYs(i)}; };
+  auto low = [&](int i) { return d.lower[static_cast<std::size_t>(i)]; };
+  auto up = [&](int i) { return d.upper[static_cast<std::size_t>(i)]; };
   outline(out, s, layer, lap ? 5 : c, last, low, up);
   if (lap)
     outline(
-        out, s, layer, 1, last, [&](int i) { return cut.low(i); },
-        [&](int i) { return cut.up(i); });
+        out, s, layer, 1, last, [&](int i) { return cutLow[static_cast<std::size_t>(i)]; },
+        [&](int i) { return cutUp[static_cast<std::size_t>(i)]; });
 
   const int m = std::clamp<int>(h.iMaxBeam, 0, last);
   {
     PolylineOut p(out, 13, c);
-    p.vertex(h.devXi(m), h.devYi(m) + s.sheetOff);
-    p.vertex(h.devXs(m), h.devYs(m) + s.sheetOff);
+    p.vertex(low(m).x, low(m).y + s.sheetOff);
+    p.vertex(up(m).x, up(m).y + s.sheetOff);
   }
-  auto lowTick = [&](int i) { tick(out, c, h.devXi(i), h.devYi(i) + s.sheetOff, 1); };
-  auto upTick = [&](int i) { tick(out, c, h.devXs(i), h.devYs(i) + s.sheetOff, -1); };
+  auto lowTick = [&](int i) { tick(out, c, low(i).x, low(i).y + s.sheetOff, 1); };
+  auto upTick = [&](int i) { tick(out, c, up(i).x, up(i).y + s.sheetOff, -1); };
+  // Lower and upper ticks in turn, as far as both go (the bottom's upper
+  // edge stops at the maximum beam), then the lower ones left.
+  const std::size_t both = std::min(d.lowerTicks.size(), d.upperTicks.size());
   if (n == 0) {
-    // The upper edge of the bottom has ticks from the transom to the
-    // maximum beam only.
-    for (int i = 1; i <= 81; i += 4) lowTick(i);
-    for (int i = 1; i <= h.iMaxBeam - 1; i += 4) upTick(i);
+    for (int i : d.lowerTicks) lowTick(i);
+    for (int i : d.upperTicks) upTick(i);
   } else {
-    for (int i = 1; i <= 81; i += 4) {
-      lowTick(i);
-      upTick(i);
+    for (std::size_t t = 0; t < both; ++t) {
+      lowTick(d.lowerTicks[t]);
+      upTick(d.upperTicks[t]);
     }
   }
   s.next();
@@ -109,7 +105,7 @@ void plate(TextSink& out, HullStore& h, SheetState& s, int n, bool lap) {
 
 }  // namespace
 
-void writePlateFile(TextSink& out, HullStore& h, int lastPlate, bool lap) {
+void writePlateFile(TextSink& out, const HullStore& h, int lastPlate, bool lap) {
   const int nLines = lastLineOf(h);
   lastPlate = std::clamp(lastPlate, 0, kMaxLine - 1);
   dxfHeader(out, h.hullName + " - Planks  - development created with Tolmar2008");
@@ -131,26 +127,22 @@ void writePlateFile(TextSink& out, HullStore& h, int lastPlate, bool lap) {
   dxfEof(out);
 }
 
-void writeDeckFile(TextSink& out, HullStore& h, int lastDeck) {
+void writeDeckFile(TextSink& out, const HullStore& h, int lastDeck) {
   lastDeck = std::clamp(lastDeck, 0, kMaxLine);
   dxfHeader(out, h.hullName + " - Decks  - development created with Tolmar2008");
   dxfSection(out);
   SheetState s;
   for (int n = 1; n <= lastDeck; ++n) {
-    developDeck(h, n);
+    const DevelopedPlate d = developPlate(h, PlateKind::deck, n);
     s.maxDevX = s.maxDevY = 0;  // afresh for each deck, unlike the plates
     const auto size = static_cast<float>(h.xFwd(1) / 100 + 0.002);
     const auto layer = static_cast<i16>(n);
-    dxfText(out, "deck" + hullNumberText(n), size, h.devXi(kNameFrom),
-            size + h.devYi(kNameFrom) + s.sheetOff, nameAngle(h), layer, 7);
+    dxfText(out, d.name, size, d.lower[kNameFrom].x, size + d.lower[kNameFrom].y + s.sheetOff,
+            nameAngle(d), layer, 7);
     outline(
         out, s, layer, static_cast<i16>(7 - n % 3), kPlankLastPoint,
-        [&](int i) {
-          return FlatPoint{h.devXi(i), h.devYi(i)};
-        },
-        [&](int i) {
-          return FlatPoint{h.devXs(i), h.devYs(i)};
-        });
+        [&](int i) { return d.lower[static_cast<std::size_t>(i)]; },
+        [&](int i) { return d.upper[static_cast<std::size_t>(i)]; });
     s.next();
   }
   dxfEndSec(out);

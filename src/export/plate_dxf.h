@@ -16,10 +16,11 @@
 
 namespace tolmar {
 
-// The plate file from plate 0 to lastPlate, developing each plate itself.
-// lap: the lap-strake form with the outline with material.
-void writePlateFile(TextSink& out, HullStore& h, int lastPlate, bool lap);
-void writeDeckFile(TextSink& out, HullStore& h, int lastDeck);
+// The plate file from plate 0 to lastPlate, each plate developed as a
+// value (the store unchanged).  lap: the lap-strake form with the outline
+// with material.  The end plates are written as the store holds them.
+void writePlateFile(TextSink& out, const HullStore& h, int lastPlate, bool lap);
+void writeDeckFile(TextSink& out, const HullStore& h, int lastDeck);
 
 ExportFile plateDxfFile(const HullStore& h);
 ExportFile deckDxfFile(const HullStore& h);

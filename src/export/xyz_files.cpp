@@ -64,31 +64,35 @@ void writeLinesXyz(TextSink& out, const HullStore& h) {
   out.line("EOF");
 }
 
-void writePlankXyz(TextSink& out, const HullStore& h, int n, int lastPoint) {
+void writePlankXyz(TextSink& out, const HullStore& h, const DevelopedPlate& p) {
+  const int n = p.index;
   out.line(plankXyzFile(h, n).defaultName + kCreated);
   out.line(n == 0 ? "Bottom plank \t0" : "Plank \t" + std::to_string(n));
   out.line(n == 0 ? "keel edge from transom to stem" : "Lower edge from transom to stem");
   out.line("point \t    X \t    Y ");
-  for (int i = 0; i <= lastPoint; ++i)
-    out.line(pointNo(i) + kTab + plateF(h.devXi(i)) + kTab + plateF(h.devYi(i)));
+  for (std::size_t i = 0; i < p.lower.size(); ++i)
+    out.line(pointNo(static_cast<int>(i)) + kTab + plateF(p.lower[i].x) + kTab +
+             plateF(p.lower[i].y));
   out.line("");
   out.line(n == 0 ? "outer edge from transom to stem" : "Upper edge from transom to stem");
   out.line("point \t    X \t    Y ");
-  for (int i = 0; i <= lastPoint; ++i)
-    out.line(pointNo(i) + kTab + plateF(h.devXs(i)) + kTab + plateF(h.devYs(i)));
+  for (std::size_t i = 0; i < p.upper.size(); ++i)
+    out.line(pointNo(static_cast<int>(i)) + kTab + plateF(p.upper[i].x) + kTab +
+             plateF(p.upper[i].y));
   out.line("");
   out.line("EOF");
 }
 
-void writeDeckXyz(TextSink& out, const HullStore& h, int n) {
-  out.line(deckXyzFile(h, n).defaultName + kCreated);
-  out.line("Half Deck \t" + std::to_string(n));
+void writeDeckXyz(TextSink& out, const HullStore& h, const DevelopedPlate& p) {
+  out.line(deckXyzFile(h, p.index).defaultName + kCreated);
+  out.line("Half Deck \t" + std::to_string(p.index));
   out.line("Outer edge from transom to stem");
   out.line("point \t    X \t    Y ");
-  out.line(" CL \t" + plateF(h.devXs(0)) + kTab + plateF(0));
-  for (int i = 0; i <= kLastPoint; ++i)
-    out.line(pointNo(i) + kTab + plateF(h.devXs(i)) + kTab + plateF(h.devYs(i)));
-  out.line(" CL \t" + plateF(h.devXs(kLastPoint)) + kTab + plateF(0));
+  out.line(" CL \t" + plateF(p.upper.front().x) + kTab + plateF(0));
+  for (std::size_t i = 0; i < p.upper.size(); ++i)
+    out.line(pointNo(static_cast<int>(i)) + kTab + plateF(p.upper[i].x) + kTab +
+             plateF(p.upper[i].y));
+  out.line(" CL \t" + plateF(p.upper.back().x) + kTab + plateF(0));
   out.line("");
   out.line("EOF");
 }
@@ -169,20 +173,13 @@ ExportOutcome saveLinesXyz(ExportHost& host, HullStore& h) {
 }
 
 ExportOutcome plankXYZ(ExportHost& host, HullStore& h, int n) {
-  int last = kPlankLastPoint;
-  if (n == 0) {
-    developBottom(h);
-    last = kBottomLastPoint;
-  } else {
-    developPlank(h, n);
-  }
-  return runExport(host, h, plankXyzFile(h, n),
-                   [&](TextSink& out) { writePlankXyz(out, h, n, last); });
+  const DevelopedPlate p = developPlate(h, n == 0 ? PlateKind::bottom : PlateKind::plank, n);
+  return runExport(host, h, plankXyzFile(h, n), [&](TextSink& out) { writePlankXyz(out, h, p); });
 }
 
 ExportOutcome deckXYZ(ExportHost& host, HullStore& h, int n) {
-  developDeck(h, n);
-  return runExport(host, h, deckXyzFile(h, n), [&](TextSink& out) { writeDeckXyz(out, h, n); });
+  const DevelopedPlate p = developPlate(h, PlateKind::deck, n);
+  return runExport(host, h, deckXyzFile(h, n), [&](TextSink& out) { writeDeckXyz(out, h, p); });
 }
 
 ExportOutcome transomXYZ(ExportHost& host, HullStore& h) {

@@ -4,6 +4,7 @@
 // small file for each developed plate.  Metres.
 #pragma once
 
+#include "development/developed_plate.h"
 #include "export/export_flow.h"
 #include "export/text_sink.h"
 #include "hull/hull_store.h"
@@ -17,8 +18,8 @@ void writeLinesXyz(TextSink& out, const HullStore& h);
 
 // Plate files from the dev arrays as they stand: call the development
 // first.  lastPoint is 83 for the bottom, 82 for a plank.
-void writePlankXyz(TextSink& out, const HullStore& h, int n, int lastPoint);
-void writeDeckXyz(TextSink& out, const HullStore& h, int n);
+void writePlankXyz(TextSink& out, const HullStore& h, const DevelopedPlate& p);
+void writeDeckXyz(TextSink& out, const HullStore& h, const DevelopedPlate& p);
 void writeTransomXyz(TextSink& out, const HullStore& h);
 void writeBowXyz(TextSink& out, const HullStore& h);
 

@@ -117,6 +117,13 @@ void addRuns(const HullStore& h, int plank, const PlankRow& row, FoldReport& r) 
   }
 }
 
+// A hull file saved before its planks were ever validated holds the planes
+// of lines 2.. as zero; the lines that the opening builds from them are no
+// design of the user's.
+bool planeFitted(const HullStore& h, int n) {
+  return h.planeA(n) != 0 || h.planeB(n) != 0 || h.planeC(n) != 0;
+}
+
 std::string metres(double x) { return formatNumber(x, "0.0"); }
 
 std::string millimetres(double d) {
@@ -125,9 +132,17 @@ std::string millimetres(double d) {
 
 }  // namespace
 
-FoldReport checkFolds(const HullStore& h) {
+FoldReport checkFolds(const HullStore& h) { return checkFoldsUpTo(h, kMaxLine); }
+
+FoldReport checkFoldsUpTo(const HullStore& h, int lastLine) {
   FoldReport r;
-  const int top = std::min<int>(h.nChines, kMaxLine);
+  int top = std::min({static_cast<int>(h.nChines), lastLine, kMaxLine});
+  for (int n = 2; n <= top; ++n) {
+    if (!planeFitted(h, n)) {
+      top = n - 1;
+      break;
+    }
+  }
   if (top < 1) return r;
 
   std::array<double, kMaxLine + 1> cosA{}, sinA{};

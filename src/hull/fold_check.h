@@ -46,8 +46,12 @@ std::string foldSentence(const FoldStretch& s, int langue);
 // millimetre nothing can be cut or measured.
 inline constexpr double kFoldTolerance = 1e-4;
 
-// Lines 0..nChines, points 0..82.  Never fails; non-finite points are
-// skipped.
+// Lines 0..nChines, points 0..82, up to the line below the first whose
+// plane was never fitted (planeA, planeB and planeC all zero).  Never
+// fails; non-finite points are skipped.
 FoldReport checkFolds(const HullStore& h);
+// Lines 0..min(nChines, lastLine) only: after the bottom screen alone the
+// lines above line 1 are not built for the present bottom (lastLine 1).
+FoldReport checkFoldsUpTo(const HullStore& h, int lastLine);
 
 }  // namespace tolmar

@@ -89,9 +89,9 @@ void printOffsets(PrintJob& job, int n) {
   w.end();
 }
 
-void printPlateTable(PrintJob& job, int n) {
+void printPlateTable(PrintJob& job, const DevelopedPlate& p) {
   const HullStore& h = job.h;
-  n = std::clamp(n, 0, kMaxLine - 1);
+  const int n = std::clamp(p.index, 0, kMaxLine - 1);
   const std::string title =
       n == 0 ? std::string(pick(job, "Développement du fond", "Development of bottom"))
              : pick(job, "Développement du bordé ", "Development of plank ") + labelNumber(n);
@@ -117,10 +117,12 @@ void printPlateTable(PrintJob& job, int n) {
   w.tab(32).text(" pt").tab(42).text("Xi").tab(56).text("Yi").tab(72).text("Xs").tab(86).text("Ys");
   w.end();
   w.blank();
-  const int last = n == 0 ? 83 : kLastPoint;
+  const int last = static_cast<int>(p.lower.size()) - 1;
   printRows(w, job, tableRows(beamPoint(h, last), n == 0 ? 83 : 81, last), [&](int i) {
-    w.tab(40).text(coord(h.devXi(i))).tab(54).text(coord(h.devYi(i)));
-    w.tab(70).text(coord(h.devXs(i))).tab(84).text(coord(h.devYs(i)));
+    const FlatPoint lo = p.lower[static_cast<std::size_t>(i)];
+    const FlatPoint up = p.upper[static_cast<std::size_t>(i)];
+    w.tab(40).text(coord(lo.x)).tab(54).text(coord(lo.y));
+    w.tab(70).text(coord(up.x)).tab(84).text(coord(up.y));
   });
   w.blank();
   w.tab(kReportMargin).text("----- EOF ----- ").text(title);

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "development/developed_plate.h"
 #include "printing/print_job.h"
 
 namespace tolmar {
@@ -21,8 +22,7 @@ std::vector<TableRow> tableRows(int iMaxBeam, int gridLast, int stem);
 // Line n (0..nChines): X, Y and Z of its points.
 void printOffsets(PrintJob& job, int n);
 
-// The plate held in devXi, devYi, devXs, devYs: the bottom (n = 0, points
-// to 83) or plank n (to 82).
-void printPlateTable(PrintJob& job, int n);
+// The developed points of the bottom (points to 83) or of a plank (to 82).
+void printPlateTable(PrintJob& job, const DevelopedPlate& p);
 
 }  // namespace tolmar

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "development/calc_develop.h"
+#include "development/developed_plate.h"
 #include "printing/data_report.h"
 #include "printing/end_tables.h"
 #include "printing/offset_tables.h"
@@ -53,15 +53,13 @@ void fmenu_P_Develop(PrintJob& job, int stepIndex) {
   BusyScope busy(job.host);
   job.s.FontName = kPrinterFont;
   pageScale(job);
-  developBottom(job.h);
   printFrame(job, FrameView::Sheet);
-  printPlate(job, 0);
+  printPlate(job, developPlate(job.h, PlateKind::bottom, 0));
   if (stepIndex >= 1) {
     for (int k = 1; k <= lines(job.h) - 1; ++k) {
       job.s.NewPage();
-      developPlank(job.h, k);
       printFrame(job, FrameView::Sheet);
-      printPlate(job, k);
+      printPlate(job, developPlate(job.h, PlateKind::plank, k));
     }
     job.s.NewPage();
     printFrame(job, FrameView::Sheet);
@@ -87,20 +85,20 @@ void fmenu_P_Tout(PrintJob& job, int stepIndex) {
   const bool planks = stepIndex >= 1;
   for (int i = 0; i <= (planks ? n : 1); ++i) printOffsets(job, i);
   job.s.NewPage();
-  developBottom(job.h);
+  const DevelopedPlate bottom = developPlate(job.h, PlateKind::bottom, 0);
   printFrame(job, FrameView::Plan);
-  printPlate(job, 0);
-  printPlateTable(job, 0);
+  printPlate(job, bottom);
+  printPlateTable(job, bottom);
   if (!planks) {
     job.s.EndDoc();
     return;
   }
   for (int k = 1; k <= n - 1; ++k) {
     job.s.NewPage();
-    developPlank(job.h, k);
+    const DevelopedPlate plank = developPlate(job.h, PlateKind::plank, k);
     printFrame(job, FrameView::Plan);
-    printPlate(job, k);
-    printPlateTable(job, k);
+    printPlate(job, plank);
+    printPlateTable(job, plank);
   }
   job.s.NewPage();
   printFrame(job, FrameView::Plan);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "development/developed_plate.h"
 #include "development/end_plates.h"
 #include "printing/paper_map.h"
 #include "text/number_format.h"
@@ -17,18 +18,20 @@ constexpr double kPlateLeft = 682;
 
 // One figure of a developed plate; side +1 below the centre line, -1 its
 // mirror above.
-void plateFigure(DrawingSurface& s, const HullStore& h, int last, int m, int side) {
+void plateFigure(DrawingSurface& s, const HullStore& h, const DevelopedPlate& p, int m, int side) {
   auto fx = [&](double x) { return static_cast<float>(h.printScaleX * x + kPlateLeft); };
   auto fy = [&](double y) {
     return static_cast<float>(h.printOriginY + side * (100 + h.printScaleY * y));
   };
-  s.PSet(fx(h.devXi(0)), fy(h.devYi(0)));
-  for (int i = 0; i <= last; ++i) s.LineTo(fx(h.devXi(i)), fy(h.devYi(i)));
-  s.LineTo(fx(h.devXs(last)), fy(h.devYs(last)));
-  s.PSet(fx(h.devXi(0)), fy(h.devYi(0)));
-  for (int i = 0; i <= last; ++i) s.LineTo(fx(h.devXs(i)), fy(h.devYs(i)));
+  const std::vector<FlatPoint>& lo = p.lower;
+  const std::vector<FlatPoint>& up = p.upper;
+  s.PSet(fx(lo.front().x), fy(lo.front().y));
+  for (const FlatPoint& q : lo) s.LineTo(fx(q.x), fy(q.y));
+  s.LineTo(fx(up.back().x), fy(up.back().y));
+  s.PSet(fx(lo.front().x), fy(lo.front().y));
+  for (const FlatPoint& q : up) s.LineTo(fx(q.x), fy(q.y));
   s.DrawStyle = kStyleDot;
-  s.Line(fx(h.devXi(m)), fy(h.devYi(m)), fx(h.devXs(m)), fy(h.devYs(m)));
+  s.Line(fx(lo[m].x), fy(lo[m].y), fx(up[m].x), fy(up[m].y));
   s.DrawStyle = kStyleSolid;
 }
 
@@ -61,21 +64,22 @@ struct EndFigure {
 
 }  // namespace
 
-void printPlate(PrintJob& job, int k) {
+void printPlate(PrintJob& job, const DevelopedPlate& p) {
+  if (p.lower.empty()) return;
   BusyScope busy(job.host);
   DrawingSurface& s = job.s;
   const HullStore& h = job.h;
-  const int last = k == 0 ? 83 : kLastPoint;
-  const int m = std::clamp<int>(h.iMaxBeam, 0, kMaxDev);
+  const int k = p.index;
+  const int m = std::clamp<int>(h.iMaxBeam, 0, static_cast<int>(p.lower.size()) - 1);
   s.DrawStyle = kStyleSolid;
   s.PSet(static_cast<float>(kLeftMargin), 900);
-  if (k == 0) {
+  if (p.kind == PlateKind::bottom) {
     s.Print(job.french() ? "Fond" : "Bottom");
   } else {
     s.Print({job.french() ? "Bordé" : "Side plank", k});
   }
-  plateFigure(s, h, last, m, 1);
-  plateFigure(s, h, last, m, -1);
+  plateFigure(s, h, p, m, 1);
+  plateFigure(s, h, p, m, -1);
 }
 
 void printEndPlates(PrintJob& job) {

@@ -1,14 +1,15 @@
-// Developed plates on paper: the plate held in the dev arrays as a double
-// figure about the centre line, and the page of the end plates.
+// Developed plates on paper: a plate as a double figure about the centre
+// line, and the page of the end plates.
 #pragma once
 
+#include "development/developed_plate.h"
 #include "printing/print_job.h"
 
 namespace tolmar {
 
-// k = 0 the bottom (points 0..83), else plank k (0..82), just developed;
-// the station of maximum beam dotted across each figure.
-void printPlate(PrintJob& job, int k);
+// The bottom (points 0..83) or a plank (0..82); the station of maximum
+// beam dotted across each figure.
+void printPlate(PrintJob& job, const DevelopedPlate& p);
 
 // Transom pattern, section at the maximum beam and, for a pram bow, the
 // bow pattern, side by side; fills transomPlate and bowPlate.

@@ -30,7 +30,9 @@ void expectEdges(const nlohmann::json& p, int last) {
 
 TEST(PlatesJson, PramBowHullWithFourLines) {
   auto h = fixture::pramBowHull();
+  const HullStore before = *h;
   const auto j = cli::platesJson(*h);
+  EXPECT_EQ(*h, before);  // the store is not changed
   EXPECT_FALSE(hasNull(j));
 
   ASSERT_EQ(j["plates"].size(), 4u);  // bottom and planks 1..3
@@ -47,7 +49,9 @@ TEST(PlatesJson, PramBowHullWithFourLines) {
   EXPECT_EQ(j["bowPlate"]["halfBreadth"].size(), 14u);
   EXPECT_TRUE(j["pramBow"]);
 
+  // The screens' own development and end plate, in the store.
   developPlank(*h, 2);
+  calcBowPlate(*h);
   EXPECT_EQ(j["plates"][2]["devYs"][40].get<double>(), h->devYs(40));
   EXPECT_EQ(j["bowPlate"]["halfBreadth"][10].get<double>(), h->bowPlate(2, 10));
 }

@@ -120,7 +120,8 @@ TEST(DevelopAll, LapStrakeOutlineAsThePlateFileDrawsIt) {
   EXPECT_EQ(p.outline(true).size(), 2 * 83u);
   EXPECT_EQ(p.outline(true).front(), c.low(0));
 
-  h->overlapMode = 1;  // strip planking: no material added
+  h->transomThick = 0;  // nothing added: no outline of its own
+  for (int i = 0; i <= kPlankLastPoint; ++i) h->overlapWidth(2, i) = 0;
   EXPECT_TRUE(developPlate(*h, PlateKind::plank, 2).cutLower.empty());
 }
 

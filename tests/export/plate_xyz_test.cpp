@@ -123,12 +123,15 @@ TEST(XyzNumbers, PlateAndPanelForms) {
   HullStore h;
   h.hullName = "B";
   h.nChines = 2;
-  h.devXi(0) = 1.25;
-  h.devYi(0) = 0;
+  DevelopedPlate p;
+  p.index = 3;
+  p.lower.assign(83, FlatPoint{});
+  p.upper.assign(83, FlatPoint{});
+  p.lower[0] = {1.25, 0};
   h.transomPlate(2, 0) = 0.5;
   h.transomPlate(1, 11) = 1.0;
   StringSink plank, transom;
-  writePlankXyz(plank, h, 3, 82);
+  writePlankXyz(plank, h, p);
   writeTransomXyz(transom, h);
   EXPECT_NE(plank.text().find("B_P3.XYZ\t created with Tolmar2008\r\nPlank \t3\r\n"),
             std::string::npos);

@@ -180,6 +180,20 @@ TEST(FoldCheck, OneStationCrossesTheBottom) {
       << r.message(0);
 }
 
+// Lines that were never built for the present bottom: checked with them,
+// plank 1 runs down to the origin.  After the bottom screen alone their
+// planes are still zero, and the check stops below them; lines built for
+// an earlier bottom are left out by checking up to line 1.
+TEST(FoldCheck, LinesNotBuiltAreLeftOut) {
+  HullStore h = testing::validatedDefaultHull();
+  EXPECT_FALSE(checkFolds(h).folded()) << checkFolds(h).message(1);
+  h.planeA(2) = 0.1;  // as if fitted, but never built: line 2 is all zero
+  EXPECT_TRUE(checkFolds(h).folded());
+  const FoldReport bottom = checkFoldsUpTo(h, 1);
+  EXPECT_FALSE(bottom.folded()) << bottom.message(1);
+  EXPECT_FALSE(checkFoldsUpTo(h, -3).folded());
+}
+
 TEST(FoldCheck, NeverFailsOnOddStores) {
   HullStore empty;
   EXPECT_FALSE(checkFolds(empty).folded());

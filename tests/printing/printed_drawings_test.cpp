@@ -154,7 +154,7 @@ TEST(PrintPlate, TwoFiguresAboutTheCentreLine) {
       developPlank(h, t.k);
       h.devXs(83) = 1e6;  // left by an earlier plate: never read for a plank
     }
-    printPlate(p.job, t.k);
+    printPlate(p.job, developPlate(h, t.k == 0 ? PlateKind::bottom : PlateKind::plank, t.k));
     const auto& c = p.s.calls();
     ASSERT_GE(c.size(), 2u);
     EXPECT_FLOAT_EQ(c[0].x1, 681.6f);
@@ -176,8 +176,7 @@ TEST(PrintPlate, TwoFiguresAboutTheCentreLine) {
 
 TEST(PrintPlate, FrenchLabels) {
   Scaled p(fixture::defaultHull());
-  developPlank(*p.h, 1);
-  printPlate(p.job, 1);
+  printPlate(p.job, developPlate(*p.h, PlateKind::plank, 1));
   EXPECT_EQ(p.s.calls()[1].text, "Bordé 1 ");
 }
 
@@ -266,7 +265,7 @@ TEST(PrintedDrawings, EmptyAndOverfullStoresStayFinite) {
     printProfile(p.job, n);
     printPlan(p.job, n);
     printSections(p.job, 1);
-    printPlate(p.job, 0);
+    printPlate(p.job, developPlate(*p.h, PlateKind::bottom, 0));
     printEndPlates(p.job);
     ImprimeStation(p.job, n);
     EXPECT_TRUE(printtest::allFinite(p.s.calls()));

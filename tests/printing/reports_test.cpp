@@ -187,8 +187,8 @@ TEST(PrintOffsets, GoldenAndColumns) {
 
 TEST(PrintPlateTable, BottomToPointEightyThreePlanksToEightyTwo) {
   Printout p(fixture::defaultHull());
-  developBottom(*p.h);
-  printPlateTable(p.job, 0);
+  developBottom(*p.h);  // the screens' development, for the expected numbers
+  printPlateTable(p.job, developPlate(*p.h, PlateKind::bottom, 0));
   const auto pg = pages(p.s.calls());
   ASSERT_EQ(pg.size(), 2u);
   printtest::expectGolden("plate_bottom_fr.txt", textGrid(pg[1]));
@@ -205,8 +205,7 @@ TEST(PrintPlateTable, BottomToPointEightyThreePlanksToEightyTwo) {
 
   Printout en(fixture::defaultHull());
   en.h->langue = 1;
-  developPlank(*en.h, 2);
-  printPlateTable(en.job, 2);
+  printPlateTable(en.job, developPlate(*en.h, PlateKind::plank, 2));
   printtest::expectGolden("plate_plank2_en.txt", textGrid(pages(en.s.calls())[1]));
   const auto el = gridLines(textGrid(pages(en.s.calls())[1]));
   EXPECT_EQ(el[3], "                   ----- Development of plank  2");
