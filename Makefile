@@ -2,8 +2,9 @@
 BUILD      ?= build
 BUILD_TYPE ?= Release
 JOBS       ?= $(shell nproc)
+PREFIX     ?= /usr/local
 
-.PHONY: all deps configure build test run demo bench fuzz clean
+.PHONY: all deps configure build test run demo bench fuzz clean install package
 
 all: build
 
@@ -33,5 +34,19 @@ bench: build
 fuzz:
 	scripts/fuzz-smoke
 
+# Both programs, manual pages, desktop entry, icon, hull file type, completion.
+# The file type and the menu entry take effect once their databases are
+# rebuilt, as the package's triggers do on install.
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
+	-command -v update-mime-database >/dev/null && update-mime-database $(PREFIX)/share/mime
+	-command -v update-desktop-database >/dev/null && update-desktop-database $(PREFIX)/share/applications
+
+# The Debian package tolmar_VERSION_ARCH.deb, here: `apt install ./tolmar_*.deb`.
+package: build
+	rm -f $(BUILD)/package/tolmar_*.deb
+	cpack -G DEB --config $(BUILD)/CPackConfig.cmake -B $(abspath $(BUILD))/package
+	cp $(BUILD)/package/tolmar_*.deb .
+
 clean:
-	rm -rf $(BUILD) build-fuzz demo
+	rm -rf $(BUILD) build-fuzz demo tolmar_*.deb

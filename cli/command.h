@@ -14,6 +14,9 @@ struct Command {
   std::string usage;  // one line: arguments and options
   std::string help;   // what it does, a few lines
   int (*run)(const Args& args);
+  // The words that may stand where the usage says KIND, for the shell's
+  // completion; "plank-xyz:N" offers "plank-xyz:".  None when null.
+  const std::vector<std::string>& (*kinds)() = nullptr;
 };
 
 std::vector<Command>& commands();

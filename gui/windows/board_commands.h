@@ -9,6 +9,7 @@
 #include <QObject>
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "board/board_action.h"
 #include "board/board_model.h"
@@ -46,6 +47,15 @@ struct BoardHooks {
 // were.
 void runBoardCommand(QWidget* board, HullStore& h, board::BoardState& b, board::BoardControl c,
                      const BoardHooks& hooks);
+
+// The board's Open in two halves, for a hull named on the command line as
+// well as the one chosen in the dialog.  readHullForOpen reads the file into
+// `read`, a copy of the store, and returns empty text, or the system's text
+// of why it holds no hull.  openReadHull then makes `read` the hull and runs
+// the board's steps after the reading: title, enabling, lines, bouchain1.
+std::string readHullForOpen(const std::string& path, HullStore& read);
+void openReadHull(HullStore& h, const HullStore& read, board::BoardState& b,
+                  const BoardHooks& hooks);
 
 // Show or ShowModal of overlap1 (modal: it returns when the screen ends),
 // hydro1 or mass1 (beside the board).  Another screen does nothing.

@@ -38,6 +38,27 @@ std::string notAHull(const std::string& path, const HullStore& read) {
   return {};
 }
 
+std::string readHullForOpen(const std::string& path, HullStore& read) {
+  try {
+    const FileResult r = openHullFile(path, read);
+    return r.ok ? notAHull(path, read) : r.message;
+  } catch (const std::exception& e) {
+    return e.what();
+  }
+}
+
+void openReadHull(HullStore& h, const HullStore& read, board::BoardState& b,
+                  const BoardHooks& hooks) {
+  h = read;
+  board::openNamed(b, h);
+  board::checkHull(b, h);
+  refresh(hooks);
+  perform(hooks, board::openBeforeRebuild(b));
+  const board::Actions next = board::openAfterRebuild(b);
+  refresh(hooks);
+  perform(hooks, next);
+}
+
 void openHull(BoardWindows& w, HullStore& h, board::BoardState& b, const BoardHooks& hooks) {
   CmDialog1& files = w.files();
   const auto choice = files.askOpenFile(
@@ -47,28 +68,13 @@ void openHull(BoardWindows& w, HullStore& h, board::BoardState& b, const BoardHo
   // Read into a copy: a refused file leaves the hull in memory as it was.
   files.setBusy(true);
   auto read = std::make_unique<HullStore>(h);
-  std::string why;
-  try {
-    const FileResult r = openHullFile(choice->path, *read);
-    why = r.ok ? notAHull(choice->path, *read) : r.message;
-  } catch (const std::exception& e) {
-    why = e.what();
-  }
+  const std::string why = readHullForOpen(choice->path, *read);
   files.setBusy(false);
   if (!why.empty()) {
     files.showError(kOpenErrorTitle, why);
     return;
   }
-  h = *read;
-  read.reset();
-
-  board::openNamed(b, h);
-  board::checkHull(b, h);
-  refresh(hooks);
-  perform(hooks, board::openBeforeRebuild(b));
-  const board::Actions next = board::openAfterRebuild(b);
-  refresh(hooks);
-  perform(hooks, next);
+  openReadHull(h, *read, b, hooks);
 }
 
 void saveHull(BoardWindows& w, HullStore& h, board::BoardState& b, const BoardHooks& hooks) {

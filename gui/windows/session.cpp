@@ -10,7 +10,9 @@
 #include "windows/bouchain2_window.h"
 #include "windows/bouchain3_window.h"
 #include "windows/busy_cursor.h"
+#include "windows/command_steps.h"
 #include "windows/dessin_window.h"
+#include "windows/file_dialog.h"
 #include "windows/menu2_window.h"
 #include "windows/plan_widget.h"
 #include "windows/twips.h"
@@ -27,7 +29,12 @@ void DeleteLater::operator()(QObject* o) const {
 }
 
 Session::Session()
-    : beep([] { QApplication::beep(); }), h_(std::make_unique<HullStore>()), runner_(*this, *h_) {}
+    : beep([] { QApplication::beep(); }),
+      message([this](std::string_view title, std::string_view text) {
+        showMessage(menu2_.get(), title, text);
+      }),
+      h_(std::make_unique<HullStore>()),
+      runner_(*this, *h_) {}
 
 Session::~Session() {
   // No event loop runs after this: the windows go at once.
@@ -48,6 +55,27 @@ void Session::start() {
 }
 
 void Session::create() { perform(screens::createClick(dessin().state(), *h_)); }
+
+void Session::openAtStart(const std::string& path) {
+  auto read = std::make_unique<HullStore>(*h_);
+  std::string why;
+  {
+    BusyCursor busy;
+    why = readHullForOpen(path, *read);
+  }
+  if (!why.empty()) {
+    // Unlike the dialog's choice, the name was typed: the message repeats it.
+    if (message) message(kOpenErrorTitle, path + ": " + why);
+    return;
+  }
+  // The board as Create leaves it, without the default hull's bouchain1
+  // that the file replaces, then the steps of its Open.
+  DessinWindow& d = dessin();
+  board::boardOnCreate(d.state(), *h_);
+  perform(
+      {board::onScreen(Do::Hide, ScreenId::menu2), board::onScreen(Do::Show, ScreenId::dessin)});
+  openReadHull(*h_, *read, d.state(), d.hooks());
+}
 
 void Session::syncWindows() {
   if (menu2_) menu2_->syncFromModel();

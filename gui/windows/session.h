@@ -7,6 +7,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include "board/board_action.h"
 #include "board/step_host.h"
@@ -40,6 +42,12 @@ class Session : public QObject, private board::StepHost {
   // Create on menu2: the board loaded if it is not, then its steps.
   void create();
 
+  // `tolmar HULL.D50`, once the start screen shows: the board comes up
+  // with the hull read as its Open reads it, and bouchain1 on top.  A file
+  // that cannot be read, or holds no hull, leaves the start screen and the
+  // store as they were and says why in a message box.
+  void openAtStart(const std::string& path);
+
   // Runs the steps in order, then brings every window up to its model.
   // Once the program has ended, no step runs and no window comes back.
   void perform(const board::Actions& actions) {
@@ -52,6 +60,8 @@ class Session : public QObject, private board::StepHost {
   HullStore& store() { return *h_; }
   // The beep of a refused value; a test may count them instead.
   std::function<void()> beep;
+  // A message box over the start screen; a test may keep them instead.
+  std::function<void(std::string_view title, std::string_view text)> message;
 
   // Each loads its screen when it is not loaded.
   Menu2Window& menu2();

@@ -166,7 +166,9 @@ CheckReport checkDevelopment(const HullStore& h, const std::vector<DevelopedPlat
   r.plates.reserve(plates.size() * 2);
   for (const DevelopedPlate& p : plates) {
     r.plates.push_back(judge(plateStrip(h, p), p, o, r.factor, false));
-    if (!p.cutLower.empty()) r.plates.push_back(judge(lapStrip(h, p), p, o, r.factor, true));
+    // The outline with material is cut only on a lap-strake hull.
+    if (h.overlapMode == 2 && !p.cutLower.empty())
+      r.plates.push_back(judge(lapStrip(h, p), p, o, r.factor, true));
   }
   return r;
 }

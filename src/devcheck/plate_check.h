@@ -53,10 +53,12 @@ struct PlateCheck {
 };
 
 struct CheckReport {
-  std::vector<PlateCheck> plates;  // in the order of the exports, lap rows after their plate
-  double factor = 1;               // the one used
-  bool factorReplaced = false;     // the one given was not a factor
-  bool folded = false;             // the hull folds: nothing checked, `message` says where
+  // In the order of the exports; on a lap-strake hull (overlapMode 2) each
+  // plate with material added is followed by its row with that material.
+  std::vector<PlateCheck> plates;
+  double factor = 1;            // the one used
+  bool factorReplaced = false;  // the one given was not a factor
+  bool folded = false;          // the hull folds: nothing checked, `message` says where
   std::string message;
 };
 

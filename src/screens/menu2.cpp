@@ -12,7 +12,6 @@ using board::ScreenId;
 
 constexpr double kWidth = 5000;
 constexpr double kHeight = 6500;
-constexpr const char* kVersionDate = " 2 Dec 2007 ";
 
 // Centred across the window, below `above` by `gap`.
 board::Rect below(const board::Rect& above, double gap, double width, double height) {
@@ -48,7 +47,7 @@ Menu2Layout menu2Layout(double screenWidth, double screenHeight) {
 
 board::Actions loadMenu2(Menu2& m, HullStore& h, double screenWidth, double screenHeight) {
   m.layout = menu2Layout(screenWidth, screenHeight);
-  m.title.caption = std::string("  Version : ") + kVersionDate;
+  m.title.caption = std::string("  Version : ") + kMenu2VersionDate;
   langueClick(m, h, 1);
   initDefaultHull(h);
   return {onScreen(Do::Show, ScreenId::menu2), onScreen(Do::Load, ScreenId::dessin),
@@ -62,7 +61,7 @@ void langueClick(Menu2& m, HullStore& h, int i) {
   h.langue = static_cast<i16>(i);
   m.Label1.caption = "Tolmar2008";
   m.label3FontSize = 7.8;
-  m.title.caption = std::string(" Tolmar2008") + "  - version " + kVersionDate;
+  m.title.caption = std::string(" Tolmar2008") + "  - version " + kMenu2VersionDate;
   if (i == 0) {
     m.Create.caption = "Créer une tolmar";
     m.Terminate.caption = "Quitter";

@@ -13,6 +13,10 @@
 
 namespace tolmar::screens {
 
+// The version words of menu2's caption, blanks included; `--version` of
+// both programs shows them beside the package's version.
+inline constexpr const char* kMenu2VersionDate = " 2 Dec 2007 ";
+
 struct Menu2Layout {
   board::Rect window, label1, label2, label3, create, terminate;
   board::Rect langue1[2];
