@@ -13,6 +13,7 @@
 #include "analysis/hydro_screen.h"
 #include "cli_session_args.h"
 #include "command.h"
+#include "number_arg.h"
 #include "pipeline.h"
 #include "qtdraw/hull_picture.h"
 #include "text/number_format.h"
@@ -85,7 +86,11 @@ int run(const Args& args) {
       if (a == "--station") {
         pic.station = v;
       } else if (a == "--hydro-zwl" || a == "--hydro-disp") {
-        (a == "--hydro-zwl" ? zwl : disp) = v;
+        const bool z = a == "--hydro-zwl";
+        if (!numberArg("draw", a, v, z ? NumberRange{-1000, 1000} : NumberRange{0, 1e6},
+                       z ? "a height of -1000 to 1000 m" : "a volume of 0 to 1e6 m3"))
+          return 2;
+        (z ? zwl : disp) = v;
         if (!zwl.empty() && !disp.empty()) return usage();
         pic.waterline = true;
       } else if (a == "--set") {

@@ -14,6 +14,7 @@
 #include "command.h"
 #include "json_dump.h"
 #include "mass_sets.h"
+#include "number_arg.h"
 #include "pipeline.h"
 #include "text/number_format.h"
 
@@ -71,6 +72,16 @@ bool parseHydroArgs(const Args& args, HydroArgs& out) {
     std::fprintf(stderr, "tolmar-cli hydro: --disp M3, --zwl Z or --mass is needed\n");
     return false;
   }
+  // The screen reads what it is given; the command line refuses what would
+  // float the hull on its side or at no finite size.
+  if (out.disp && !numberArg("hydro", "--disp", *out.disp, {0, 1e6}, "a volume of 0 to 1e6 m3"))
+    return false;
+  if (out.zwl &&
+      !numberArg("hydro", "--zwl", *out.zwl, {-1000, 1000}, "a height of -1000 to 1000 m"))
+    return false;
+  if (!numberArg("hydro", "--pitch", out.pitch, {-45, 45, true},
+                 "degrees strictly between -45 and 45"))
+    return false;
   if (!out.massSets.empty() && !out.mass) {
     std::fprintf(stderr, "tolmar-cli hydro: --set mass1.* needs --mass\n");
     return false;

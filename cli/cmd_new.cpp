@@ -13,6 +13,11 @@ namespace {
 int run(const Args& args) {
   SessionArgs a;
   if (!parseSessionArgs(args, false, a)) return 2;
+  // "" or "dir/" would save a hidden ".D50" with no name.
+  if (hullSavePath(a.file).filename() == ".D50") {
+    std::fprintf(stderr, "tolmar-cli new: the hull file needs a name, as in Boat.D50\n");
+    return 2;
+  }
   PipelineOptions o;
   o.sets = a.sets;
   HullStore h;

@@ -7,6 +7,7 @@
 #include "board/step_host.h"
 #include "board/step_runner.h"
 #include "hull/hull_file.h"
+#include "hull/hull_file_check.h"
 #include "screens/bouchain1.h"
 #include "screens/bouchain2.h"
 #include "screens/bouchain3.h"
@@ -130,7 +131,11 @@ PipelineResult Session::run() {
     // before the board's Open, changes nothing that the file does not
     // replace, and is left out.
     board::boardOnCreate(r_.board, h_);
-    const FileResult read = openHullFile(*o_.hullFile, h_);
+    FileResult read = openHullFile(*o_.hullFile, h_);
+    if (read.ok) {
+      // Opened, so a regular file: an empty one or a picture is no hull.
+      if (std::string why = notAHullFile(*o_.hullFile); !why.empty()) read = {false, why};
+    }
     if (!read.ok) {
       fail(1, "Tolmar2008 Opening file: " + o_.hullFile->string() + ": " + read.message);
       return r_;
@@ -233,6 +238,17 @@ bool Session::validate(std::string_view name, Validate valider, const Replacemen
       if (!seen) r_.warnings.push_back(rep);
     }
     if (ok) return true;
+  }
+  // Values the screen refuses for what they make of the hull: say what.
+  const auto refusal = std::find_if(replaced.begin(), replaced.end(),
+                                    [](const Replacement& rep) { return !rep.why.empty(); });
+  if (refusal != replaced.end()) {
+    std::string why =
+        std::string(name) + " refuses these values: " + refusal->why + ".  In orange:";
+    for (const Replacement& rep : replaced) {
+      if (rep.why == refusal->why) why += " " + rep.control + "=" + rep.kept;
+    }
+    return fail(2, why);
   }
   std::string why = std::string(name) + " does not pass after " + std::to_string(kMaxValidations) +
                     " validations; the last one still changed:";

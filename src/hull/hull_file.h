@@ -65,6 +65,8 @@ FileResult readHullFile(std::istream& in, bool noShapeFwd, HullStore& h);
 // characters are "51"), then lineX, lineY, lineZ cleared and rebuilt by
 // buildBottomLines, buildBottomEdges and buildLine(2..nChines), busy
 // called with each n.  Planes and line ends stay as the file gives them.
+// Anything but a regular file (a folder, a FIFO, a device) is refused at
+// once, before it is opened: "Is a directory", "Not a regular file".
 FileResult openHullFile(const std::filesystem::path& path, HullStore& h, const BusyStep& busy = {});
 
 // hullName from a file name without its folders: cut at the first "." when

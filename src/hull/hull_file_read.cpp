@@ -1,11 +1,14 @@
 // Reading the hull file in every layout it has had, and the store side of
 // opening one.
+#include <sys/stat.h>
+
 #include <cerrno>
 #include <cstring>
 #include <fstream>
 #include <istream>
 
 #include "hull/hull_file.h"
+#include "io/safe_write.h"
 #include "text/data_line.h"
 #include "text/number_reader.h"
 
@@ -107,8 +110,12 @@ FileResult readHullFile(std::istream& in, bool noShapeFwd, HullStore& h) {
 
 FileResult openHullFile(const std::filesystem::path& path, HullStore& h, const BusyStep& busy) {
   h.hullName = hullNameFromFileName(path.filename().string());
-  std::error_code ec;
-  if (std::filesystem::is_directory(path, ec)) return {false, std::strerror(EISDIR)};
+  // A FIFO or a device would block the read or never end it: only a
+  // regular file is opened.
+  struct stat st {};
+  if (::stat(path.c_str(), &st) != 0) return {false, std::strerror(errno)};
+  if (S_ISDIR(st.st_mode)) return {false, std::strerror(EISDIR)};
+  if (!S_ISREG(st.st_mode)) return {false, io::errorText(io::kNotRegular)};
   errno = 0;
   std::ifstream in(path, std::ios::binary);
   if (!in) return {false, std::strerror(errno != 0 ? errno : ENOENT)};

@@ -192,7 +192,7 @@ void SafeFile::flushBuffer(bool last) {
   const char* p = buf_.data();
   std::size_t left = buf_.size();
   if (left > 0 && faultAt(WriteStep::write)) fail(ENOSPC);
-  if (left > 0 && last && faultAt(WriteStep::flush)) {
+  if (last && faultAt(WriteStep::flush)) {
     // A disk that fills up in the middle of the last block.
     left /= 2;
     if (left > 0 && ::write(fd_, p, left) < 0) fail(errno);

@@ -225,8 +225,10 @@ bool Bouchain1::validerBottom(HullStore& h) {
   if (!controlValuesFinite(h, 0) || !controlValuesFinite(h, 1) || !linePointsFinite(h, 0) ||
       !linePointsFinite(h, 1) || !bottomEdgesFinite(h)) {
     backup.restore(h);
-    for (int i = 0; i <= 4; ++i) log.refused(Text1(i));
-    for (int i : {0, 1, 2, 7}) log.refused(Text2(i));
+    const std::string why =
+        "the keel, the first chine or the bottom would lie beyond any hull's scale";
+    for (int i = 0; i <= 4; ++i) log.refused(Text1(i), why);
+    for (int i : {0, 1, 2, 7}) log.refused(Text2(i), why);
     return false;
   }
   // The chine that never meets its transom or stem plane: the fields that
@@ -235,12 +237,14 @@ bool Bouchain1::validerBottom(HullStore& h) {
   if (!settled.aft || !settled.fwd) {
     backup.restore(h);
     if (!settled.aft) {
-      for (int i : {1, 2, 6}) log.refused(Text2(i));
-      log.refused(Text1(6));
+      const std::string why = "the first chine never meets its transom plane";
+      for (int i : {1, 2, 6}) log.refused(Text2(i), why);
+      log.refused(Text1(6), why);
     }
     if (!settled.fwd) {
-      for (int i : {0, 5, 7}) log.refused(Text2(i));
-      log.refused(Text1(5));
+      const std::string why = "the first chine never meets its stem plane";
+      for (int i : {0, 5, 7}) log.refused(Text2(i), why);
+      log.refused(Text1(5), why);
     }
     return false;
   }

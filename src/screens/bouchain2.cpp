@@ -161,7 +161,8 @@ bool Bouchain2::validerPlanks(HullStore& h) {
   if (failed != 0) {
     backup.restore(h);
     const int row = failed - 2;
-    for (Field* f : {&Text1(row), &Text2(row), &Text3(row), &Text4(row)}) log.refused(*f);
+    const std::string why = lineRefusal(failed);
+    for (Field* f : {&Text1(row), &Text2(row), &Text3(row), &Text4(row)}) log.refused(*f, why);
     return false;
   }
   return true;

@@ -145,9 +145,12 @@ bool Bouchain3::validerAuto(HullStore& h) {
       },
       busy);
   if (failed != 0) {
+    // A line that cannot be built, or that lies beyond any hull's scale:
+    // the inclinations and the sheer heights that shape every line.
     backup.restore(h);
-    log.refused(Text1(0));
-    log.refused(Text2(0));
+    const std::string why = lineRefusal(failed);
+    log.refused(Text1(0), why);
+    for (int k = 0; k <= 3; ++k) log.refused(Text2(k), why);
     autoOk = false;
     progress("");
     return false;

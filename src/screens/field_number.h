@@ -9,11 +9,11 @@
 
 namespace tolmar {
 
-// Beyond the scale of any hull, in metres or as a shape exponent.  A field
-// without an upper bound (a length, a height, an S shape) that reads beyond
-// it is replaced by it like a value beyond a bound, which keeps the
-// geometry finite for any text.
-inline constexpr double kLargestTyped = 1e6;
+// Beyond the scale of any hull (a kilometre), in metres or as a shape
+// exponent.  A field without an upper bound (a length, a height, an S
+// shape) that reads beyond it is replaced by it like a value beyond a
+// bound, which keeps the geometry finite and of a hull's size for any text.
+inline constexpr double kLargestTyped = 1e3;
 
 // cleanNumber on the field's text, in place.
 void cleanField(Field& f);

@@ -49,9 +49,19 @@ void GeometryBackup::restore(HullStore& h) const {
   h.bevelAngle = bevelAngle_;
 }
 
+namespace {
+
+bool sane(double v) { return std::isfinite(v) && std::abs(v) <= kLargestCoordinate; }
+
+}  // namespace
+
 bool controlValuesFinite(const HullStore& h, int n) {
-  for (const LineArr* a : {&h.xAft, &h.yAft, &h.zAft, &h.xMax, &h.yMax, &h.zMax, &h.xFwd, &h.yFwd,
-                           &h.zFwd, &h.planeA, &h.planeB, &h.planeC}) {
+  for (const LineArr* a :
+       {&h.xAft, &h.yAft, &h.zAft, &h.xMax, &h.yMax, &h.zMax, &h.xFwd, &h.yFwd, &h.zFwd}) {
+    if (!sane((*a)(n))) return false;
+  }
+  // The plane's slopes may be steep; finite is all they need.
+  for (const LineArr* a : {&h.planeA, &h.planeB, &h.planeC}) {
     if (!std::isfinite((*a)(n))) return false;
   }
   return true;
@@ -59,8 +69,7 @@ bool controlValuesFinite(const HullStore& h, int n) {
 
 bool linePointsFinite(const HullStore& h, int n) {
   for (int p = 0; p <= kLastPoint; ++p) {
-    if (!std::isfinite(h.lineX(n, p)) || !std::isfinite(h.lineY(n, p)) ||
-        !std::isfinite(h.lineZ(n, p))) {
+    if (!sane(h.lineX(n, p)) || !sane(h.lineY(n, p)) || !sane(h.lineZ(n, p))) {
       return false;
     }
   }
@@ -70,8 +79,7 @@ bool linePointsFinite(const HullStore& h, int n) {
 bool bottomEdgesFinite(const HullStore& h) {
   for (int s = 0; s <= 1; ++s) {
     for (int i = 0; i <= 83; ++i) {
-      if (!std::isfinite(h.edgeX(s, i)) || !std::isfinite(h.edgeY(s, i)) ||
-          !std::isfinite(h.edgeZ(s, i))) {
+      if (!sane(h.edgeX(s, i)) || !sane(h.edgeY(s, i)) || !sane(h.edgeZ(s, i))) {
         return false;
       }
     }

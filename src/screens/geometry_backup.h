@@ -22,7 +22,13 @@ class GeometryBackup {
   BevelTable bevelAngle_;
 };
 
-// Checks of what a rebuild wrote.
+// No point of a hull typed within kLargestTyped lies this far out; one that
+// does comes from values that blow the equations up (an exponent of a huge
+// height), and its numbers would reach the files as hundreds of digits.
+inline constexpr double kLargestCoordinate = 1e5;
+
+// Checks of what a rebuild wrote: finite, and coordinates within
+// kLargestCoordinate.
 bool controlValuesFinite(const HullStore& h, int line);  // the nine values and the plane
 bool linePointsFinite(const HullStore& h, int line);     // points 0..82
 bool bottomEdgesFinite(const HullStore& h);              // indices 0..83 of both sides

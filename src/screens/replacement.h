@@ -14,6 +14,7 @@ struct Replacement {
   std::string typed;    // the field's text when the validation began
   std::string kept;     // the value the store kept, as the field shows it
   bool marked = true;   // the field turned yellow or orange and the screen stays open
+  std::string why;      // for a refused value, what is wrong with the hull it gives
 };
 
 using Replacements = std::vector<Replacement>;

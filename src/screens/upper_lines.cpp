@@ -15,6 +15,12 @@ void report(const LineProgress& progress, int line, LineStage stage) {
 
 }  // namespace
 
+std::string lineRefusal(int n) {
+  return "line " + std::to_string(n) +
+         " has no plane through its points, never meets its end planes or runs beyond any "
+         "hull's scale";
+}
+
 int buildUpperLinesChecked(HullStore& h, const LineProgress& progress, const BusyStep& busy) {
   const int top = std::clamp<int>(h.nChines, 1, kMaxLine);
   for (int n = 2; n <= top; ++n) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "hull/hull_store.h"
 #include "hull/line_generation.h"
@@ -18,6 +19,9 @@ using LineProgress = std::function<void(int line, LineStage stage)>;
 // plane cannot be fitted, whose plank runs parallel to that plane
 // (chineDegenerate), or whose ends, points or bevels come out non-finite.
 // The rebuild stops there; the caller restores its GeometryBackup.
+// What the command line says of a hull refused at line n.
+std::string lineRefusal(int n);
+
 int buildUpperLinesChecked(HullStore& h, const LineProgress& progress = {},
                            const BusyStep& busy = {});
 

@@ -51,4 +51,9 @@ void ValidationLog::refused(Field& f, std::int32_t colour) {
   record(f, f.text, true);
 }
 
+void ValidationLog::refused(Field& f, const std::string& why) {
+  refused(f);
+  out_.back().why = why;
+}
+
 }  // namespace tolmar

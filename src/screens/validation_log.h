@@ -38,6 +38,10 @@ class ValidationLog {
   // stays, and the screen stays open.
   void refused(Field& f, std::int32_t colour = kOrange);
 
+  // The same, with what is wrong with the hull these values give ("the
+  // first chine never meets its transom plane"), for the command line.
+  void refused(Field& f, const std::string& why);
+
   bool ok() const { return ok_; }
 
  private:

@@ -87,6 +87,13 @@ TEST(CliHydro, BeyondTheHullSinks) {
   EXPECT_EQ(j["immersedChine"], 5);
 }
 
+TEST(CliHydro, NumbersWithACommaOrBlanksAreTaken) {
+  const CliRun r = hydro("'" + kDefaultHull + "' --disp ' 0,4 ' --pitch 44.9");
+  ASSERT_EQ(r.status, 0) << r.err;
+  const json j = json::parse(r.out);
+  EXPECT_NEAR(j["pitch"].get<double>(), 44.9 * 3.14159265358979 / 180, 1e-12);
+}
+
 TEST(CliHydro, CommandLineErrors) {
   const std::pair<std::string, int> table[] = {
       {"'" + kDefaultHull + "'", 2},                                   // no mode
@@ -95,6 +102,16 @@ TEST(CliHydro, CommandLineErrors) {
       {"'" + kDefaultHull + "' --disp 1 --set 'mass1.Text3(13)=5'", 2},
       {"'" + kDefaultHull + "' --disp", 2},
       {"/nonexistent/hull.D50 --disp 1", 1},
+      // Read silently as 0 or as the largest double by the screen's field,
+      // and a hull on its side or beyond: refused on the command line.
+      {"'" + kDefaultHull + "' --disp nan", 2},
+      {"'" + kDefaultHull + "' --disp inf", 2},
+      {"'" + kDefaultHull + "' --disp 1e999", 2},
+      {"'" + kDefaultHull + "' --disp -1", 2},
+      {"'" + kDefaultHull + "' --disp 0.4x", 2},
+      {"'" + kDefaultHull + "' --zwl 1e999", 2},
+      {"'" + kDefaultHull + "' --disp 0.4 --pitch 90", 2},
+      {"'" + kDefaultHull + "' --disp 0.4 --pitch -45", 2},
   };
   for (const auto& [args, status] : table) {
     const CliRun r = hydro(args);

@@ -165,6 +165,26 @@ TEST_F(Pipeline, HullThatCannotBeValidatedExitsWithStatus2) {
   EXPECT_FALSE(fs::exists(dir_ / "bad.D50"));
 }
 
+// A refused hull is told by what is wrong with it, and written nowhere.
+TEST_F(Pipeline, RefusedHullsSayWhy) {
+  const CliRun transom =
+      cli("new t.D50 --set 'bouchain1.Text1(0)=9.82' --set 'bouchain1.Text1(6)=4.99'"
+          " --set 'bouchain1.Text2(2)=-10' --set 'bouchain1.Text2(6)=70'");
+  EXPECT_EQ(transom.status, 2);
+  EXPECT_NE(transom.err.find("the first chine never meets its transom plane"), std::string::npos)
+      << transom.err;
+  EXPECT_NE(transom.err.find("Text2(6)=-70"), std::string::npos) << transom.err;
+  // A sheer line typed 10 000 km high is held to a kilometre, which still
+  // throws the lines beyond any hull's scale.
+  const CliRun sheer = cli("new s.D50 --set bouchain3.Text0=19 --set 'bouchain3.Text2(3)=1e7'");
+  EXPECT_EQ(sheer.status, 2);
+  EXPECT_NE(sheer.err.find("kept \"1000\""), std::string::npos) << sheer.err;
+  EXPECT_NE(sheer.err.find("bouchain3 refuses these values: line"), std::string::npos) << sheer.err;
+  EXPECT_NE(sheer.err.find("beyond any hull's scale"), std::string::npos) << sheer.err;
+  EXPECT_FALSE(fs::exists(dir_ / "t.D50"));
+  EXPECT_FALSE(fs::exists(dir_ / "s.D50"));
+}
+
 TEST_F(Pipeline, WrongCommandLinesAndFiles) {
   ASSERT_EQ(cli("new h.D50").status, 0);
   struct Case {

@@ -271,23 +271,37 @@ TEST(Bouchain3, ProgressCaptions) {
   EXPECT_EQ(seen, expected);
 }
 
-TEST(Bouchain3, StemShapeWhosePowersOverflowIsRefused) {
+TEST(Bouchain3, HugeStemShapeIsHeldToTheScaleOfAHull) {
   Opened o;
   o.s.Text4.text = "-1e999";
-  EXPECT_FALSE(o.s.validerAuto(o.h));  // held to the scale of a hull first
+  EXPECT_FALSE(o.s.validerAuto(o.h));
   EXPECT_EQ(o.h.stemShape, -kLargestTyped);
-  EXPECT_EQ(o.s.Text4.text, "-1000000");
+  EXPECT_EQ(o.s.Text4.text, "-1000");
   EXPECT_EQ(o.s.Text4.backColor, kYellow);
-  const HullStore before = o.h;
-  EXPECT_FALSE(o.s.validerAuto(o.h));  // (k/N)^-500000 overflows: refused
-  EXPECT_EQ(o.s.Text4.backColor, kOrange);
-  EXPECT_FALSE(o.s.autoOk);
-  EXPECT_EQ(o.h.yFwd, before.yFwd);
-  EXPECT_EQ(o.h.lineY, before.lineY);
+  EXPECT_TRUE(o.s.validerAuto(o.h));
   EXPECT_TRUE(storeFinite(o.h));
-  EXPECT_EQ(o.s.Label3.caption, "");
   o.s.Text4.text = "2";
   EXPECT_TRUE(o.s.validerAuto(o.h));
+}
+
+// A sheer line typed a kilometre high is held there, but the lines it
+// gives run to tens of thousands of kilometres (their ends are powers of
+// it): refused, the fields that shape every line in orange, the hull as it
+// was.
+TEST(Bouchain3, SheerBeyondTheScaleOfAHullIsRefused) {
+  Opened o;
+  o.s.Text0.text = "19";
+  o.s.Text2(3).text = "1e7";
+  EXPECT_FALSE(o.s.validerAuto(o.h));
+  EXPECT_EQ(o.s.Text2(3).text, "1000");
+  EXPECT_EQ(o.s.Text2(3).backColor, kYellow);
+  const HullStore before = o.h;
+  EXPECT_FALSE(o.s.validerAuto(o.h));
+  EXPECT_EQ(o.s.Text2(3).backColor, kOrange);
+  EXPECT_EQ(o.s.Text1(0).backColor, kOrange);
+  EXPECT_EQ(o.h.lineX, before.lineX);
+  EXPECT_EQ(o.h.lineZ, before.lineZ);
+  EXPECT_TRUE(storeFinite(o.h));
 }
 
 TEST(Bouchain3, AnyTextInAnyField) {
