@@ -20,12 +20,9 @@ const std::vector<BuildEntry>& buildEntries() {
   return entries;
 }
 
-BuildMenu::BuildMenu(QMenuBar* bar, QWidget* board, const HullStore& h)
-    : QObject(bar), board_(board), h_(h), menu_(bar->addMenu(QString())) {
-  menu_->setObjectName("fmenu_Build");
-  menu_->menuAction()->setObjectName("fmenu_Build");
+BuildMenu::BuildMenu(QMenu* menu, QWidget* board, const HullStore& h)
+    : QObject(menu), board_(board), h_(h), menu_(menu) {
   const auto& entries = buildEntries();
-  menu_->menuAction()->setVisible(!entries.empty());
   for (std::size_t i = 0; i < entries.size(); ++i) {
     QAction* a = menu_->addAction(QString());
     a->setObjectName(entries[i].objectName);
@@ -36,7 +33,6 @@ BuildMenu::BuildMenu(QMenuBar* bar, QWidget* board, const HullStore& h)
 }
 
 void BuildMenu::sync(const board::BoardState& b, int langue) {
-  menu_->setTitle(langue == 0 ? "Construction" : "Build");
   const auto& entries = buildEntries();
   for (std::size_t i = 0; i < entries.size(); ++i) {
     actions_[i]->setText(QString::fromUtf8(langue == 0 ? entries[i].french : entries[i].english));

@@ -35,8 +35,8 @@ const std::vector<BuildEntry>& buildEntries();
 class BuildMenu : public QObject {
   Q_OBJECT
  public:
-  // Adds the menu at the end of `bar`.
-  BuildMenu(QMenuBar* bar, QWidget* board, const HullStore& h);
+  // Adds the entries at the end of the board's Build menu.
+  BuildMenu(QMenu* menu, QWidget* board, const HullStore& h);
 
   // Captions by langue (0 French, 1 English) and enabling by the board.
   void sync(const board::BoardState& b, int langue);

@@ -9,12 +9,14 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <algorithm>
 
 #include "board/fold_drawing.h"
 #include "windows/board_commands.h"
 #include "windows/busy_cursor.h"
 #include "windows/command_steps.h"
 #include "windows/field_widgets.h"
+#include "windows/hull_view_window.h"
 #include "windows/plan_widget.h"
 #include "windows/session.h"
 #include "windows/twips.h"
@@ -43,6 +45,7 @@ DessinWindow::DessinWindow(Session& s)
   captionLangue_ = s.store().langue;
   buildControls();
   buildMenu();
+  buildAddedEntries();
   const Twips t(*this);
   const QSizeF display = displayTwips(*this);
   layout_ = board::loadLayout(display.width(), display.height());
@@ -133,7 +136,40 @@ void DessinWindow::buildMenu() {
     connect(printStability_, &QAction::triggered, this,
             [this] { printStabilityEntry(BoardWindows::of(this, s_.store()), s_.store()); });
   }
-  buildMenu_ = new BuildMenu(menuBar(), this, s_.store());
+}
+
+void DessinWindow::buildAddedEntries() {
+  // After the VRML export, in the menu that holds it.
+  QAction* vrml = actions_[board::index(C::fmenu_S_VRML)];
+  for (QObject* o : vrml ? vrml->associatedObjects() : QObjectList{}) {
+    auto* menu = qobject_cast<QMenu*>(o);
+    if (!menu) continue;
+    const auto list = menu->actions();
+    const auto at = std::find(list.begin(), list.end(), vrml);
+    model3d_ = new QAction(menu);
+    menu->insertAction(at + 1 != list.end() ? *(at + 1) : nullptr, model3d_);
+    break;
+  }
+  if (model3d_) {
+    model3d_->setObjectName("fmenu_S_Model3D");
+    connect(model3d_, &QAction::triggered, this, [this] { saveHullModel(this, s_.store()); });
+  }
+  build_ = menuBar()->addMenu(QString());
+  build_->menuAction()->setObjectName("fmenu_Build");
+  view3d_ = build_->addAction(QString());
+  view3d_->setObjectName("fmenu_B_View3D");
+  buildMenu_ = new BuildMenu(build_, this, s_.store());
+  connect(view3d_, &QAction::triggered, this, [this] {
+    if (!view3d_->isEnabled()) return;
+    if (!view3dWindow_) {
+      view3dWindow_ = openHullViewWindow(this, s_.store());
+      if (!view3dWindow_) return;
+      view3dWindow_->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    view3dWindow_->show();
+    view3dWindow_->raise();
+    view3dWindow_->activateWindow();
+  });
 }
 
 QPushButton* DessinWindow::button(BoardControl c) const {
@@ -195,6 +231,19 @@ void DessinWindow::syncFromModel() {
                                  ? palette().color(QPalette::Window)
                                  : qtColor(b_.text2Background));
   text2_->setPalette(p);
+
+  // The planks' lines are drawn: a redraw after the planking, which also
+  // enables the VRML export.
+  const bool drawn = b_.stepIndex >= 1 && b_.isEnabled(C::fmenu_S_VRML) && s_.store().nChines >= 1;
+  const bool fr = captionLangue_ == 0;
+  build_->setTitle(fr ? "Construction" : "Build");
+  view3d_->setText(QString::fromUtf8(fr ? "Vue 3D…" : "3-D view…"));
+  view3d_->setEnabled(drawn);
+  if (model3d_) {
+    model3d_->setText(QString::fromUtf8(fr ? "Modèle 3D (STL, OBJ)…" : "3-D model (STL, OBJ)…"));
+    model3d_->setEnabled(drawn);
+  }
+  if (view3dWindow_ && drawn) view3dWindow_->follow();
 
   const QString folds = qtText(b_.folds.message(s_.store().langue));
   if (folds != foldLine_->text()) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <array>
 #include <functional>
 
@@ -13,6 +14,7 @@
 #include "board/board_model.h"
 #include "windows/board_commands.h"
 #include "windows/build_menu.h"
+#include "windows/hull_view_window.h"
 
 class QAction;
 class QLabel;
@@ -45,6 +47,11 @@ class DessinWindow : public QMainWindow {
   // The warning line over the top of the picture, shown while the hull
   // folds (board::BoardState::folds), in the store's language.
   QLabel* foldLine() const { return foldLine_; }
+  // Entries beyond the original screens: "3-D view…" in the Build menu and
+  // "3-D model (STL, OBJ)…" after the VRML export; the 3-D view while open.
+  QAction* view3dAction() const { return view3d_; }
+  QAction* model3dAction() const { return model3d_; }
+  HullViewWindow* view3d() const { return view3dWindow_.data(); }
 
   // A click on a button or menu entry, or its shortcut.
   void press(board::BoardControl c);
@@ -67,6 +74,7 @@ class DessinWindow : public QMainWindow {
  private:
   void buildControls();
   void buildMenu();
+  void buildAddedEntries();
   void applyLayout();
   void placeFoldLine();
 
@@ -84,6 +92,10 @@ class DessinWindow : public QMainWindow {
   QAction* printStability_ = nullptr;  // the print menu's "Stability"
   BuildMenu* buildMenu_ = nullptr;
   QLabel* foldLine_ = nullptr;
+  QMenu* build_ = nullptr;
+  QAction* view3d_ = nullptr;
+  QAction* model3d_ = nullptr;
+  QPointer<HullViewWindow> view3dWindow_;
 };
 
 }  // namespace tolmar::gui
