@@ -4,7 +4,7 @@ BUILD_TYPE ?= Release
 JOBS       ?= $(shell nproc)
 PREFIX     ?= /usr/local
 
-.PHONY: all deps configure build test run demo bench fuzz clean install package
+.PHONY: all deps configure build test sanitize run demo bench fuzz clean install package
 
 all: build
 
@@ -19,7 +19,13 @@ build: configure
 
 test: build
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+	@if [ -n "$$CI" ]; then JOBS=$(JOBS) scripts/sanitize-test; fi
 	@if [ -n "$$CI" ] && [ -x scripts/fuzz-smoke ]; then scripts/fuzz-smoke; fi
+
+# The core, tolmar-cli and their tests in Debug under AddressSanitizer and
+# UBSan (build-asan); part of `make test` on CI.
+sanitize:
+	JOBS=$(JOBS) scripts/sanitize-test
 
 run: build
 	$(BUILD)/gui/tolmar
@@ -49,4 +55,4 @@ package: build
 	cp $(BUILD)/package/tolmar_*.deb .
 
 clean:
-	rm -rf $(BUILD) build-fuzz demo tolmar_*.deb
+	rm -rf $(BUILD) build-asan build-fuzz demo tolmar_*.deb

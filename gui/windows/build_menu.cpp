@@ -1,9 +1,9 @@
 #include "windows/build_menu.h"
 
 #include <QAction>
-#include <QMenuBar>
 #include <cstring>
 
+#include "windows/sheets_window.h"
 #include "windows/stability_window.h"
 
 namespace tolmar::gui {
@@ -15,6 +15,8 @@ bool planksDrawn(const board::BoardState& b) {
 const std::vector<BuildEntry>& buildEntries() {
   // One row per entry, in the order of the menu.
   static const std::vector<BuildEntry> entries = {
+      {"fmenu_B_Sheets", "Panneaux de contreplaqué…", "Plywood sheets…", planksDrawn,
+       openSheetsWindow},
       {"fmenu_B_Stability", "Stabilité…", "Stability…", planksDrawn, openStabilityWindow},
   };
   return entries;
@@ -33,6 +35,7 @@ BuildMenu::BuildMenu(QMenu* menu, QWidget* board, const HullStore& h)
 }
 
 void BuildMenu::sync(const board::BoardState& b, int langue) {
+  menu_->setTitle(langue == 0 ? "Construction" : "Build");
   const auto& entries = buildEntries();
   for (std::size_t i = 0; i < entries.size(); ++i) {
     actions_[i]->setText(QString::fromUtf8(langue == 0 ? entries[i].french : entries[i].english));

@@ -1,7 +1,8 @@
-// The board's "Build" / "Construction" menu, after the menus of the
-// original screens: what this program adds to them.  Each entry is one row
-// of buildEntries() (build_menu.cpp): its captions, when it is enabled, and
-// the function that opens its window beside the board.
+// Entries of the board's "Build" / "Construction" menu (after the menus of
+// the original screens: what this program adds to them) that open a window
+// of their own.  Each entry is one row of buildEntries() (build_menu.cpp):
+// its captions, when it is enabled, and the function that opens its window
+// beside the board.
 #pragma once
 
 #include <QMenu>
@@ -12,7 +13,6 @@
 #include "hull/hull_store.h"
 
 class QAction;
-class QMenuBar;
 
 namespace tolmar::gui {
 
@@ -35,7 +35,7 @@ const std::vector<BuildEntry>& buildEntries();
 class BuildMenu : public QObject {
   Q_OBJECT
  public:
-  // Adds the entries at the end of the board's Build menu.
+  // Adds the entries to the board's Build menu `menu`.
   BuildMenu(QMenu* menu, QWidget* board, const HullStore& h);
 
   // Captions by langue (0 French, 1 English) and enabling by the board.

@@ -158,7 +158,6 @@ void DessinWindow::buildAddedEntries() {
   build_->menuAction()->setObjectName("fmenu_Build");
   view3d_ = build_->addAction(QString());
   view3d_->setObjectName("fmenu_B_View3D");
-  buildMenu_ = new BuildMenu(build_, this, s_.store());
   connect(view3d_, &QAction::triggered, this, [this] {
     if (!view3d_->isEnabled()) return;
     if (!view3dWindow_) {
@@ -170,6 +169,8 @@ void DessinWindow::buildAddedEntries() {
     view3dWindow_->raise();
     view3dWindow_->activateWindow();
   });
+  // The entries of build_menu.h after it.
+  buildMenu_ = new BuildMenu(build_, this, s_.store());
 }
 
 QPushButton* DessinWindow::button(BoardControl c) const {

@@ -43,7 +43,7 @@ class DessinWindow : public QMainWindow {
   QLineEdit* text1() const { return text1_; }
   QLineEdit* text2() const { return text2_; }
   // The "Build" menu after the original menus.
-  BuildMenu& buildMenuOf() const { return *buildMenu_; }
+  BuildMenu& constructionMenu() const { return *buildMenu_; }
   // The warning line over the top of the picture, shown while the hull
   // folds (board::BoardState::folds), in the store's language.
   QLabel* foldLine() const { return foldLine_; }
@@ -89,8 +89,8 @@ class DessinWindow : public QMainWindow {
   QLabel* label2_ = nullptr;
   QLineEdit* text1_ = nullptr;
   QLineEdit* text2_ = nullptr;
-  QAction* printStability_ = nullptr;  // the print menu's "Stability"
   BuildMenu* buildMenu_ = nullptr;
+  QAction* printStability_ = nullptr;  // the print menu's "Stability"
   QLabel* foldLine_ = nullptr;
   QMenu* build_ = nullptr;
   QAction* view3d_ = nullptr;

@@ -29,10 +29,14 @@ void dxfSection(TextSink& out) {
 }
 
 void dxfPolyline(TextSink& out, i16 layer, i16 colour) {
+  dxfPolyline(out, std::to_string(layer), colour);
+}
+
+void dxfPolyline(TextSink& out, std::string_view layer, i16 colour) {
   out.line("  0");
   out.line("POLYLINE");
   out.line("  8");
-  out.line(std::to_string(layer));
+  out.line(layer);
   out.line(" 62");
   out.line("     " + std::to_string(colour));
   out.line(" 66");
@@ -43,11 +47,16 @@ void dxfPolyline(TextSink& out, i16 layer, i16 colour) {
   out.line("      8");  // 8: a 3D polyline
 }
 
-void dxfVertex(TextSink& out, i16 layer, i16 /*colour*/, double x, double y, double z) {
+void dxfVertex(TextSink& out, i16 layer, i16 colour, double x, double y, double z) {
+  dxfVertex(out, std::to_string(layer), colour, x, y, z);
+}
+
+void dxfVertex(TextSink& out, std::string_view layer, i16 /*colour*/, double x, double y,
+               double z) {
   out.line("  0");
   out.line("VERTEX");
   out.line("  8");
-  out.line(std::to_string(layer));
+  out.line(layer);
   out.line(" 70");
   out.line("     32");  // 32: a vertex of a 3D polyline
   out.line(" 10");

@@ -22,6 +22,9 @@ void dxfHeader(TextSink& out, std::string_view comment);  // comment as UTF-8
 void dxfSection(TextSink& out);
 void dxfPolyline(TextSink& out, i16 layer, i16 colour);
 void dxfVertex(TextSink& out, i16 layer, i16 colour, double x, double y, double z);
+// The same records on a layer with a name ("CUT", "MARK").
+void dxfPolyline(TextSink& out, std::string_view layer, i16 colour);
+void dxfVertex(TextSink& out, std::string_view layer, i16 colour, double x, double y, double z);
 void dxfSeqend(TextSink& out);
 void dxfEndSec(TextSink& out);
 void dxfEof(TextSink& out);  // the caller commits and closes the file behind it

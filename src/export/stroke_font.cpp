@@ -80,6 +80,11 @@ std::span<const GlyphPoint> strokeGlyph(char32_t c) {
 
 void dxfText(TextSink& out, std::string_view text, float size, double x, double y, double angle,
              i16 layer, i16 colour) {
+  dxfText(out, text, size, x, y, angle, std::string_view(std::to_string(layer)), colour);
+}
+
+void dxfText(TextSink& out, std::string_view text, float size, double x, double y, double angle,
+             std::string_view layer, i16 colour) {
   const float dx = static_cast<float>(std::cos(angle) * size);
   const float dy = static_cast<float>(std::sin(angle) * size);
   float px = static_cast<float>(x);

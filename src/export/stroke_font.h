@@ -26,5 +26,8 @@ std::span<const GlyphPoint> strokeGlyph(char32_t c);
 // precision; Z is 0.  A blank only advances the pen.
 void dxfText(TextSink& out, std::string_view text, float size, double x, double y, double angle,
              i16 layer, i16 colour);
+// The same on a layer with a name.
+void dxfText(TextSink& out, std::string_view text, float size, double x, double y, double angle,
+             std::string_view layer, i16 colour);
 
 }  // namespace tolmar

@@ -79,8 +79,11 @@ TEST_F(FoldCli, EveryCommandTellsItOnStderr) {
       "hydro f20.D50 --zwl 0.1",
       "print f20.D50 data f20.pdf",
   };
+  // draw and print exist only in a build with the Qt drawing library.
+  const bool qtDrawing = cli("draw --help").status == 0;
   for (const std::string& c : commands) {
     SCOPED_TRACE(c);
+    if (!qtDrawing && (c.rfind("draw ", 0) == 0 || c.rfind("print ", 0) == 0)) continue;
     const CliRun r = cli(c);
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_NE(r.err.find(kFoldEn), std::string::npos) << r.err;

@@ -136,7 +136,7 @@ void StabilityWindowTest::buildAndPrintMenuEntries() {
   test::Started p;
   p.createAndValidate();
   DessinWindow& board = p.board();
-  QAction* entry = board.buildMenuOf().action("fmenu_B_Stability");
+  QAction* entry = board.constructionMenu().action("fmenu_B_Stability");
   QAction* print = board.findChild<QAction*>("fmenu_P_Stability");
   QVERIFY(entry && print);
   QVERIFY(!entry->isEnabled());  // the bottom alone: no planks yet
@@ -150,9 +150,9 @@ void StabilityWindowTest::buildAndPrintMenuEntries() {
   QVERIFY(print->isEnabled());
   QCOMPARE(entry->text(), QString("Stability…"));
   QCOMPARE(print->text(), QString("Stability"));
-  QCOMPARE(board.buildMenuOf().menu()->title(), QString("Build"));
+  QCOMPARE(board.constructionMenu().menu()->title(), QString("Build"));
   entry->trigger();
-  auto* w = qobject_cast<StabilityWindow*>(board.buildMenuOf().window("fmenu_B_Stability"));
+  auto* w = qobject_cast<StabilityWindow*>(board.constructionMenu().window("fmenu_B_Stability"));
   QVERIFY(w);
   QVERIFY2(w->result().ok(), w->result().error.c_str());
   QVERIFY(w->windowTitle().startsWith("Stability"));

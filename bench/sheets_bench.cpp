@@ -1,0 +1,66 @@
+// Panels on plywood sheets, from the hull to the DXF and SVG text: the
+// default hull, the four-line pram-bow hull and the 20-plank hull, scarf
+// joints 8:1, kerf 3 mm, margin 10 mm.  The default hull's deck (1337 mm)
+// and transom need sheets of 3050 x 1525; on 2440 x 1220 the hulls are
+// measured without the parts wider than that sheet.  Counters: sheets, the
+// area lower bound and the utilisation (pieces' area / sheets' area).
+// Targets: the default hull under 1 s, the 20-plank hull under 10 s.
+#include <benchmark/benchmark.h>
+
+#include "../tests/development/hull_fixture.h"
+#include "sheets/bill_of_materials.h"
+#include "sheets/sheet_plan.h"
+#include "sheets/sheets_dxf.h"
+#include "sheets/sheets_svg.h"
+
+namespace {
+
+using namespace tolmar;
+using namespace tolmar::sheets;
+
+std::unique_ptr<HullStore> hull(int which) {
+  return which == 0   ? fixture::defaultHull()
+         : which == 1 ? fixture::pramBowHull()
+                      : fixture::manyLineHull();
+}
+
+void BM_Sheets(benchmark::State& state) {
+  const auto h = hull(static_cast<int>(state.range(0)));
+  SheetOptions o;
+  if (state.range(1) == 0) {
+    o.lengthMm = 3050;
+    o.widthMm = 1525;
+  } else {
+    // The parts wider than 1200 mm are left out.
+    o.skip = {"transom", "bulkhead 1", "deck " + std::to_string(h->nChines)};
+  }
+  SheetPlan plan;
+  for (auto _ : state) {
+    plan = planSheets(*h, o);
+    std::size_t bytes = 0;
+    for (int s = 0; s < static_cast<int>(plan.sheets.size()); ++s) {
+      StringSink dxf;
+      writeSheetDxf(dxf, plan, s, "bench", 1);
+      bytes += dxf.text().size();
+    }
+    bytes += sheetsSvg(plan, "bench", 1).size();
+    benchmark::DoNotOptimize(bytes);
+  }
+  if (!plan.error.empty()) state.SkipWithError(plan.error.c_str());
+  const Bom bom = billOfMaterials(plan);
+  state.counters["sheets"] = bom.sheetCount;
+  state.counters["bound"] = bom.areaBound;
+  state.counters["utilisation"] = bom.utilisation();
+}
+// Arguments: hull (0 default, 1 pram bow, 2 20 planks), sheet (0 3050 x 1525, 1 2440 x 1220).
+BENCHMARK(BM_Sheets)
+    ->Args({0, 0})
+    ->Args({0, 1})
+    ->Args({1, 0})
+    ->Args({1, 1})
+    ->Args({2, 0})
+    ->Args({2, 1})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1);
+
+}  // namespace

@@ -1,0 +1,182 @@
+#include "sheets/sheet_plan.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <future>
+#include <map>
+
+#include "sheets/clipper_geometry.h"
+#include "sheets/hull_parts.h"
+#include "sheets/joints.h"
+#include "sheets/layout_check.h"
+#include "sheets/nesting.h"
+
+namespace tolmar::sheets {
+
+namespace {
+
+std::string mm(double v) {
+  char b[32];
+  std::snprintf(b, sizeof b, "%.0f mm", v);
+  return b;
+}
+
+bool positive(double v) { return std::isfinite(v) && v > 0; }
+
+// Pieces that no allowed turn brings inside the sheet: the first one's
+// message, or empty.
+std::string tooWide(const SheetPlan& plan, double U, double W, int langue) {
+  const bool fr = langue == 0;
+  for (const Piece& p : plan.pieces) {
+    const MmBox b = boundingBox(p.outline);
+    const bool along = b.width() <= U + 0.005 && b.height() <= W + 0.005;
+    const bool across = plan.options.rotate90 && b.height() <= U + 0.005 && b.width() <= W + 0.005;
+    if (along || across) continue;
+    const std::string& name = plan.parts[p.part].name;
+    if (b.height() > W && !(plan.options.rotate90 && b.height() <= U))
+      return name + (fr ? " demande une largeur de " : " needs a width of ") + mm(b.height()) +
+             (fr ? " ; la feuille donne " : "; the sheet gives ") + mm(W) +
+             (fr ? " entre ses marges." : " inside its margins.");
+    return name + (fr ? " demande une longueur de " : " needs a length of ") + mm(b.width()) +
+           (fr ? " ; la feuille donne " : "; the sheet gives ") + mm(U) +
+           (fr ? " entre ses marges." : " inside its margins.");
+  }
+  return {};
+}
+
+void nestPlan(SheetPlan& plan) {
+  const SheetOptions& o = plan.options;
+  std::map<double, std::vector<int>> byThickness;
+  for (int i = 0; i < static_cast<int>(plan.pieces.size()); ++i)
+    byThickness[plan.parts[plan.pieces[i].part].thicknessMm].push_back(i);
+  const auto u = [](double v) {
+    return static_cast<ClipperLib::cInt>(std::llround(v * kUnitsPerMm));
+  };
+  for (const auto& [thickness, ids] : byThickness) {
+    NestRequest r;
+    for (int i : ids) r.shapes.push_back(toPath(plan.pieces[i].outline));
+    r.x0 = r.y0 = u(o.marginMm);
+    r.x1 = u(o.lengthMm - o.marginMm);
+    r.y1 = u(o.widthMm - o.marginMm);
+    r.gap = u(o.kerfMm);
+    r.rotate90 = o.rotate90;
+    const std::vector<NestPlace> placed = nestShapes(r);
+    const std::size_t first = plan.sheets.size();
+    for (std::size_t k = 0; k < ids.size(); ++k) {
+      const NestPlace& np = placed[k];
+      if (np.bin < 0) continue;  // the check reports it
+      while (plan.sheets.size() <= first + np.bin)
+        plan.sheets.push_back({o.lengthMm, o.widthMm, thickness, {}});
+      PlacedPiece pp;
+      pp.piece = ids[k];
+      pp.rotation = np.rotation;
+      pp.dx = np.dx / kUnitsPerMm;
+      pp.dy = np.dy / kUnitsPerMm;
+      const Piece& piece = plan.pieces[ids[k]];
+      for (const MmPoint& q : piece.outline) pp.outline.push_back(placePoint(pp, q));
+      for (const MmPolyline& m : piece.marks) {
+        MmPolyline pm;
+        for (const MmPoint& q : m) pm.push_back(placePoint(pp, q));
+        pp.marks.push_back(std::move(pm));
+      }
+      plan.sheets[first + np.bin].pieces.push_back(std::move(pp));
+    }
+  }
+}
+
+}  // namespace
+
+MmPoint placePoint(const PlacedPiece& p, MmPoint q) {
+  const double c = std::cos(p.rotation), s = std::sin(p.rotation);
+  return {c * q.x - s * q.y + p.dx, s * q.x + c * q.y + p.dy};
+}
+
+std::string checkOptions(const SheetOptions& o, int langue) {
+  const bool fr = langue == 0;
+  if (!positive(o.lengthMm) || !positive(o.widthMm))
+    return fr ? "La taille de la feuille doit être positive." : "The sheet size must be positive.";
+  if (!(std::isfinite(o.marginMm) && o.marginMm >= 0))
+    return fr ? "La marge ne peut pas être négative." : "The margin cannot be negative.";
+  if (!positive(o.kerfMm))
+    return fr ? "Le trait de scie doit être supérieur à 0." : "The kerf must be above 0.";
+  if (o.joint == JointKind::scarf && !positive(o.scarfRatio))
+    return fr ? "La pente du joint en biseau doit être supérieure à 0."
+              : "The scarf ratio must be above 0.";
+  if (o.joint == JointKind::butt && !positive(o.strapWidthMm))
+    return fr ? "La largeur du couvre-joint doit être supérieure à 0."
+              : "The butt strap width must be above 0.";
+  if (o.lengthMm <= 2 * o.marginMm || o.widthMm <= 2 * o.marginMm)
+    return fr ? "Les marges ne laissent rien de la feuille."
+              : "The margins leave nothing of the sheet.";
+  for (const JointAt& j : o.jointsAt)
+    if (!std::isfinite(j.xMetres))
+      return fr ? "Position de joint illisible." : "A joint position is not a number.";
+  return {};
+}
+
+SheetPlan planParts(std::vector<SheetPart> parts, const SheetOptions& o, int langue) {
+  SheetPlan best;
+  best.options = o;
+  best.error = checkOptions(o, langue);
+  if (!best.error.empty()) return best;
+  const double U = o.lengthMm - 2 * o.marginMm, W = o.widthMm - 2 * o.marginMm;
+  bool needsJoint = false;
+  for (const SheetPart& p : parts) needsJoint |= boundingBox(p.outline).width() > U;
+  const JointStrategy all[] = {JointStrategy::even, JointStrategy::fromAft,
+                               JointStrategy::fromForward};
+  // Each way of placing the joints is planned on a thread of its own.
+  auto attempt = [&](JointStrategy st) {
+    SheetPlan plan;
+    plan.options = o;
+    plan.parts = parts;
+    // A tenth of a millimetre to spare for the rounding of the outlines.
+    CutResult cut = cutParts(parts, o, U - 0.1, st, langue);
+    if (!cut.error.empty()) {
+      plan.error = cut.error;
+      return plan;
+    }
+    for (SheetPart& s : cut.straps) plan.parts.push_back(std::move(s));
+    plan.pieces = std::move(cut.pieces);
+    plan.joints = std::move(cut.joints);
+    plan.error = tooWide(plan, U, W, langue);
+    if (plan.error.empty()) nestPlan(plan);
+    return plan;
+  };
+  std::vector<std::future<SheetPlan>> tries;
+  for (JointStrategy st : all)
+    if (needsJoint || st == JointStrategy::even)
+      tries.push_back(std::async(std::launch::async, attempt, st));
+  bool have = false;
+  for (auto& t : tries) {
+    SheetPlan plan = t.get();
+    if (!plan.error.empty()) {
+      if (!have && best.error.empty()) best = std::move(plan);
+      continue;
+    }
+    if (!have || plan.sheets.size() < best.sheets.size()) {
+      best = std::move(plan);
+      have = true;
+    }
+  }
+  if (have) {
+    const auto bad = checkLayout(best);
+    if (!bad.empty()) best.error = "The layout failed its check: " + bad.front();
+  }
+  return best;
+}
+
+SheetPlan planSheets(const HullStore& h, const SheetOptions& o) {
+  SheetPlan plan;
+  plan.options = o;
+  plan.error = checkOptions(o, h.langue);
+  if (!plan.error.empty()) return plan;
+  PartsResult parts = partsFromHull(h, o);
+  if (!parts.error.empty()) {
+    plan.error = parts.error;
+    return plan;
+  }
+  return planParts(std::move(parts.parts), o, h.langue);
+}
+
+}  // namespace tolmar::sheets
