@@ -9,6 +9,8 @@
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPdfWriter>
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <map>
@@ -21,10 +23,13 @@
 #include "board/step_runner.h"
 #include "cli_session_args.h"
 #include "command.h"
+#include "development/developed_plate.h"
 #include "hull/fold_check.h"
 #include "io/safe_write.h"
 #include "pipeline.h"
+#include "printing/panel_offsets_report.h"
 #include "printing/paper_setup.h"
+#include "printing/pattern_pages.h"
 #include "printing/print_menu.h"
 #include "printing/stability_page.h"
 #include "qtdraw/paged_surface.h"
@@ -36,14 +41,18 @@ namespace {
 using board::BoardControl;
 
 constexpr const char* kUsage =
-    "HULL.D50 data|drawing|develop|station|all|stability OUT.pdf [--paper A4|A3|Letter] "
-    "[--landscape]\n"
-    "      [--margin-mm 5] [--calibrate X,Y] [--station X] [--lang fr|en] [--auto]\n"
-    "      [--set SCREEN.CONTROL=VALUE]...";
+    "HULL.D50 data|drawing|develop|station|all|patterns|panels|stability OUT.pdf [--paper "
+    "A4|A3|Letter]\n"
+    "      [--landscape] [--margin-mm 5] [--calibrate X,Y] [--station X] [--lang fr|en]\n"
+    "      [--overlap-mm 10] [--plates p01,p02,...] [--auto] [--set SCREEN.CONTROL=VALUE]...";
 
 struct PrintArgs {
   BoardControl entry = BoardControl::fmenu_P_Data;
-  bool stability = false;  // the Stability entry, which the board's menu does not hold
+  bool patterns = false;   // the full-size patterns, behind the same gate as the plates
+  bool stability = false;  // the stability pages, behind the gate of all offsets
+  double overlapMm = 10;
+  std::vector<std::string> plates;
+  std::string paperName = "A4";
   std::string out;
   QPageSize::PageSizeId paper = QPageSize::A4;
   bool landscape = false;
@@ -60,11 +69,9 @@ int usage(const char* why) {
 
 std::optional<BoardControl> kindEntry(const std::string& kind) {
   static const std::map<std::string, BoardControl> kinds = {
-      {"data", BoardControl::fmenu_P_Data},
-      {"drawing", BoardControl::fmenu_P_Dessin},
-      {"develop", BoardControl::fmenu_P_Develop},
-      {"station", BoardControl::fmenu_P_Station},
-      {"all", BoardControl::fmenu_P_Tout}};
+      {"data", BoardControl::fmenu_P_Data},       {"drawing", BoardControl::fmenu_P_Dessin},
+      {"develop", BoardControl::fmenu_P_Develop}, {"station", BoardControl::fmenu_P_Station},
+      {"all", BoardControl::fmenu_P_Tout},        {"panels", BoardControl::fmenu_P_Panels}};
   const auto it = kinds.find(kind);
   if (it == kinds.end()) return std::nullopt;
   return it->second;
@@ -86,6 +93,7 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
       const auto paper = papers.find(*v);
       if (paper == papers.end()) return usage("--paper takes A4, A3 or Letter");
       p.paper = paper->second;
+      p.paperName = *v;
     } else if (a == "--landscape") {
       p.landscape = true;
     } else if (a == "--station") {
@@ -104,6 +112,20 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
       const std::string* v = value();
       if (!v || !parseCalibration(*v, p.calibration))
         return usage("--calibrate needs the X and Y factors, as 1.002,0.998");
+    } else if (a == "--overlap-mm") {
+      const std::string* v = value();
+      if (!v || !parsePaperNumber(*v, p.overlapMm))
+        return usage("--overlap-mm needs a number of millimetres");
+    } else if (a == "--plates") {
+      const std::string* v = value();
+      if (!v || v->empty()) return usage("--plates needs names, as p01,p02,transom");
+      std::size_t start = 0;
+      while (start <= v->size()) {
+        const std::size_t comma = std::min(v->find(',', start), v->size());
+        if (comma > start) p.plates.push_back(v->substr(start, comma - start));
+        start = comma + 1;
+      }
+      if (p.plates.empty()) return usage("--plates needs names, as p01,p02,transom");
     } else if (a == "--set") {
       sessionArgs.push_back(a);
       if (const std::string* v = value()) sessionArgs.push_back(*v);
@@ -114,10 +136,13 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
     }
   }
   if (words.size() != 3) return usage("a hull file, a kind and a PDF file are needed");
-  const auto entry = kindEntry(words[1]);
+  p.patterns = words[1] == "patterns";
   p.stability = words[1] == "stability";
-  if (!entry && !p.stability) return usage(("no kind of print '" + words[1] + "'").c_str());
-  if (entry) p.entry = *entry;
+  const auto entry = p.patterns    ? BoardControl::fmenu_P_Develop
+                     : p.stability ? BoardControl::fmenu_P_Tout
+                                   : kindEntry(words[1]);
+  if (!entry) return usage(("no kind of print '" + words[1] + "'").c_str());
+  p.entry = *entry;
   p.out = words[2];
   sessionArgs.insert(sessionArgs.begin(), words[0]);
   return parseSessionArgs(sessionArgs, true, session) ? 0 : 2;
@@ -129,7 +154,12 @@ std::string paperError(const PrintArgs& p, int langue) {
   for (const double f : {p.calibration.x, p.calibration.y})
     if (std::string why = calibrationError(f, langue); !why.empty()) return why;
   const QSizeF mm = QPageSize(p.paper).size(QPageSize::Millimeter);
-  return marginError(p.marginMm, mm.width(), mm.height(), langue);
+  if (std::string why = marginError(p.marginMm, mm.width(), mm.height(), langue); !why.empty())
+    return why;
+  if (p.patterns &&
+      (!std::isfinite(p.overlapMm) || p.overlapMm < kMinOverlapMm || p.overlapMm > kMaxOverlapMm))
+    return overlapError(p.overlapMm, 0, 0, langue);
+  return {};
 }
 
 // Qt's notes about the offscreen platform are no concern of the command's
@@ -178,6 +208,9 @@ class PrintSteps : public board::StepHost {
       case BoardControl::fmenu_P_Tout:
         fmenu_P_Tout(job_, b_.stepIndex);
         break;
+      case BoardControl::fmenu_P_Panels:
+        fmenu_P_Panels(job_);
+        break;
       default:
         break;
     }
@@ -211,6 +244,7 @@ int run(const Args& args) {
     std::fprintf(stderr, "tolmar-cli print: %s\n", why.c_str());
     return 2;
   }
+  // The patterns need what the plates need; nothing of the board runs.
   if (p.stability) {
     if (r.board.stepIndex < 1) {
       std::fprintf(stderr, "tolmar-cli print: stability needs the planks of the hull\n");
@@ -221,11 +255,28 @@ int run(const Args& args) {
       return 2;
     }
   }
-  const board::Actions steps = p.stability ? board::Actions{} : board::press(r.board, *h, p.entry);
-  if (!p.stability && steps.empty()) {
+  const bool ownPages = p.patterns || p.stability;
+  const board::Actions steps = ownPages ? board::Actions{} : board::press(r.board, *h, p.entry);
+  if (ownPages ? !r.board.isEnabled(p.entry) : steps.empty()) {
     std::fprintf(stderr, "tolmar-cli print: %s is disabled on the board\n",
                  std::string(board::controlName(p.entry)).c_str());
     return 2;
+  }
+
+  std::vector<DevelopedPlate> plates;
+  std::vector<const DevelopedPlate*> chosen;
+  if (p.patterns) {
+    plates = developAll(*h);
+    std::vector<std::string> unknown;
+    chosen = choosePlates(plates, p.plates, unknown);
+    if (!unknown.empty() || chosen.empty()) {
+      std::string names;
+      for (const DevelopedPlate& d : plates) names += " " + d.name;
+      std::fprintf(stderr, "tolmar-cli print: %s '%s'; the plates are:%s\n",
+                   unknown.empty() ? "no plate to print" : "no plate",
+                   unknown.empty() ? "" : unknown.front().c_str(), names.c_str());
+      return 2;
+    }
   }
 
   const auto app = guiApplication();
@@ -257,10 +308,20 @@ int run(const Args& args) {
       return 1;
     }
     PrintHost host;
-    PrintJob job{surface, *h, host};
-    if (p.stability) {
+    if (p.patterns) {
+      const PatternPlan plan = planPatterns(surface, chosen, p.overlapMm);
+      const std::string why =
+          overlapError(p.overlapMm, plan.areaWmm, plan.areaHmm - kPatternHeadMm, h->langue);
+      if (!why.empty()) {
+        std::fprintf(stderr, "tolmar-cli print: %s\n", why.c_str());
+        return 2;
+      }
+      printPatterns(surface, *h, host, plan, p.paperName);
+    } else if (p.stability) {
+      PrintJob job{surface, *h, host};
       fmenu_P_Stability(job);
     } else {
+      PrintJob job{surface, *h, host};
       PrintSteps entry(job, r.board);
       board::StepRunner(entry, *h).perform(steps);
     }
@@ -279,8 +340,11 @@ Register reg({"print", kUsage,
               "  of the print menu into a PDF: data (the data sheet), drawing (profile, plan\n"
               "  and sections), develop (the plates), station (the sheet of the station\n"
               "  nearest to --station X, else the board's), all (every sheet and table),\n"
-              "  stability (GZ and hydrostatic curves with their tables, from the mass\n"
-              "  budget, as the board's print menu prints them).\n"
+              "  patterns (every plate and end plate at 1:1 on tiles of the paper that\n"
+              "  overlap by --overlap-mm, 5 to 50, after a map of the tiles; --plates\n"
+              "  names the plates, as tolmar-cli dump lists them), panels (the panel\n"
+              "  offsets of every plate, as tolmar-cli offsets gives them), stability (GZ\n"
+              "  and hydrostatic curves with their tables, from the mass budget).\n"
               "  A4 portrait unless told; texts in English unless --lang fr.  The page\n"
               "  lies inside a margin of --margin-mm (5 mm) at 568 twips to the centimetre;\n"
               "  --calibrate gives a printer's stretch measured on the 200 mm bar of\n"

@@ -1,5 +1,10 @@
 // The print menu of the board: each entry one document on the program's
 // printer, or in a PDF file when there is none; and the printer dialog.
+#include <QPrinter>
+
+#include "development/developed_plate.h"
+#include "printing/panel_offsets_report.h"
+#include "printing/pattern_pages.h"
 #include "printing/print_host.h"
 #include "printing/print_job.h"
 #include "printing/print_menu.h"
@@ -48,6 +53,20 @@ bool printEntry(BoardWindows& w, HullStore& h, board::BoardState& b, board::Boar
       break;
     case C::fmenu_P_Tout:
       pages = [step](PrintJob& job) { fmenu_P_Tout(job, step); };
+      break;
+    case C::fmenu_P_Patterns: {
+      const std::string paper = w.printers().printer().pageLayout().pageSize().name().toStdString();
+      pages = [paper, &host](PrintJob& job) {
+        const std::vector<DevelopedPlate> plates = developAll(job.h);
+        std::vector<std::string> unknown;
+        const PatternPlan plan =
+            planPatterns(job.s, choosePlates(plates, {}, unknown), kPatternOverlapMm);
+        printPatterns(job.s, job.h, host, plan, paper);
+      };
+      break;
+    }
+    case C::fmenu_P_Panels:
+      pages = [](PrintJob& job) { fmenu_P_Panels(job); };
       break;
     default:
       return false;

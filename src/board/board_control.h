@@ -43,6 +43,8 @@ enum class BoardControl : int {
   fmenu_P_Develop,
   fmenu_P_Station,
   fmenu_P_Tout,
+  fmenu_P_Patterns,  // full-size patterns on tiles, enabled with fmenu_P_Develop
+  fmenu_P_Panels,    // panel offsets, enabled with fmenu_P_Develop
   fmenu_PSetup,
   separ2,
   fmenu_Quit,

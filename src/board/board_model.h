@@ -32,7 +32,11 @@ struct BoardState {
   // board shows its message as a warning line.
   FoldReport folds;
 
-  bool isEnabled(BoardControl c) const { return enabled[index(c)]; }
+  // The print entries added beside the plates' sheets follow that entry.
+  bool isEnabled(BoardControl c) const {
+    const bool plates = c == BoardControl::fmenu_P_Patterns || c == BoardControl::fmenu_P_Panels;
+    return enabled[index(plates ? BoardControl::fmenu_P_Develop : c)];
+  }
   void enable(BoardControl c, bool on = true) { enabled[index(c)] = on; }
 };
 

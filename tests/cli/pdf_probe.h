@@ -44,6 +44,7 @@ struct Box {
 struct Segment {
   double x0, y0, x1, y1, lengthMm;
   bool horizontal, vertical;
+  double widthPt;
 };
 
 inline bool popplerReady() {
@@ -81,17 +82,23 @@ inline std::vector<Box> words(const std::filesystem::path& pdf, int page) {
   return r;
 }
 
+// Every straight segment of the page, with its stroke width (pt; 0 when
+// the tool gives none), to 0.001 mm.
 inline std::vector<Segment> segments(const std::filesystem::path& pdf, int page) {
   const Shell s = shell("python3 " + std::string(kPdfMeasure) + " " + quoted(pdf) + " --page " +
-                        std::to_string(page) + " --all --min-mm 0 --json");
+                        std::to_string(page) + " --all --min-mm 0");
   std::vector<Segment> r;
   if (s.status != 0) return r;
-  const auto j = nlohmann::json::parse(s.out, nullptr, false);
-  if (j.is_discarded()) return r;
-  for (const auto& e : j["segments"]) {
-    const std::string o = e["orient"];
-    r.push_back({e["p1_mm"][0], e["p1_mm"][1], e["p2_mm"][0], e["p2_mm"][1], e["len_mm"],
-                 o == "horizontal", o == "vertical"});
+  static const std::regex line(
+      "(horizontal|vertical|oblique)\\s+([\\d.]+) mm \\([^)]*\\)\\s+\\(\\s*(-?[\\d.]+),\\s*(-?["
+      "\\d.]+)\\) -> \\(\\s*(-?[\\d.]+),\\s*(-?[\\d.]+)\\) mm\\s+\\[\\w+(?: width ([\\d.]+) "
+      "pt)?\\]");
+  for (auto it = std::sregex_iterator(s.out.begin(), s.out.end(), line);
+       it != std::sregex_iterator(); ++it) {
+    const std::smatch& m = *it;
+    r.push_back({std::stod(m[3]), std::stod(m[4]), std::stod(m[5]), std::stod(m[6]),
+                 std::stod(m[2]), m[1] == "horizontal", m[1] == "vertical",
+                 m[7].matched ? std::stod(m[7]) : 0.0});
   }
   return r;
 }

@@ -463,6 +463,8 @@ void BoardCommandsTest::printEntriesGoToPdf_data() {
   QTest::newRow("development") << int(C::fmenu_P_Develop) << 2;
   QTest::newRow("station") << int(C::fmenu_P_Station) << 1;
   QTest::newRow("all offsets") << int(C::fmenu_P_Tout) << 8;
+  QTest::newRow("full-size patterns") << int(C::fmenu_P_Patterns) << 50;
+  QTest::newRow("panel offsets") << int(C::fmenu_P_Panels) << 6;
 }
 
 void BoardCommandsTest::printEntriesGoToPdf() {
