@@ -13,6 +13,7 @@
 #include "cli_session_args.h"
 #include "command.h"
 #include "json_dump.h"
+#include "mass_sets.h"
 #include "number_arg.h"
 #include "pipeline.h"
 #include "text/number_format.h"
@@ -85,21 +86,6 @@ bool parseHydroArgs(const Args& args, HydroArgs& out) {
     std::fprintf(stderr, "tolmar-cli hydro: --set mass1.* needs --mass\n");
     return false;
   }
-  return true;
-}
-
-// Types a value into Text1..Text4(row) of mass1; false for a control the
-// screen does not have.
-bool typeIntoMass(Mass1& m, const SetValue& v) {
-  ControlArray<0, kLastMassRow>* column = v.control == "Text1"   ? &m.Text1
-                                          : v.control == "Text2" ? &m.Text2
-                                          : v.control == "Text3" ? &m.Text3
-                                          : v.control == "Text4" ? &m.Text4
-                                                                 : nullptr;
-  if (!column || !v.hasValue || v.index < 0 || v.index > kLastMassRow ||
-      !(*column)(v.index).visible)
-    return false;
-  (*column)(v.index).text = v.value;
   return true;
 }
 

@@ -24,12 +24,14 @@
 #include "cli_session_args.h"
 #include "command.h"
 #include "development/developed_plate.h"
+#include "hull/fold_check.h"
 #include "io/safe_write.h"
 #include "pipeline.h"
 #include "printing/panel_offsets_report.h"
 #include "printing/paper_setup.h"
 #include "printing/pattern_pages.h"
 #include "printing/print_menu.h"
+#include "printing/stability_page.h"
 #include "qtdraw/paged_surface.h"
 #include "unseen_picture.h"
 
@@ -39,14 +41,15 @@ namespace {
 using board::BoardControl;
 
 constexpr const char* kUsage =
-    "HULL.D50 data|drawing|develop|station|all|patterns|panels|check OUT.pdf\n"
+    "HULL.D50 data|drawing|develop|station|all|patterns|panels|check|stability OUT.pdf\n"
     "      [--paper A4|A3|Letter] [--landscape] [--margin-mm 5] [--calibrate X,Y]\n"
     "      [--station X] [--lang fr|en] [--overlap-mm 10] [--plates p01,p02,...] [--auto]\n"
     "      [--set SCREEN.CONTROL=VALUE]...";
 
 struct PrintArgs {
   BoardControl entry = BoardControl::fmenu_P_Data;
-  bool patterns = false;  // the full-size patterns, behind the same gate as the plates
+  bool patterns = false;   // the full-size patterns, behind the same gate as the plates
+  bool stability = false;  // the stability pages, behind the gate of all offsets
   double overlapMm = 10;
   std::vector<std::string> plates;
   std::string paperName = "A4";
@@ -135,7 +138,10 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
   }
   if (words.size() != 3) return usage("a hull file, a kind and a PDF file are needed");
   p.patterns = words[1] == "patterns";
-  const auto entry = p.patterns ? BoardControl::fmenu_P_Develop : kindEntry(words[1]);
+  p.stability = words[1] == "stability";
+  const auto entry = p.patterns    ? BoardControl::fmenu_P_Develop
+                     : p.stability ? BoardControl::fmenu_P_Tout
+                                   : kindEntry(words[1]);
   if (!entry) return usage(("no kind of print '" + words[1] + "'").c_str());
   p.entry = *entry;
   p.out = words[2];
@@ -243,8 +249,19 @@ int run(const Args& args) {
     return 2;
   }
   // The patterns need what the plates need; nothing of the board runs.
-  const board::Actions steps = p.patterns ? board::Actions{} : board::press(r.board, *h, p.entry);
-  if (p.patterns ? !r.board.isEnabled(p.entry) : steps.empty()) {
+  if (p.stability) {
+    if (r.board.stepIndex < 1) {
+      std::fprintf(stderr, "tolmar-cli print: stability needs the planks of the hull\n");
+      return 2;
+    }
+    if (const FoldReport folds = checkFolds(*h); folds.folded()) {
+      std::fprintf(stderr, "tolmar-cli print: %s\n", folds.message(h->langue).c_str());
+      return 2;
+    }
+  }
+  const bool ownPages = p.patterns || p.stability;
+  const board::Actions steps = ownPages ? board::Actions{} : board::press(r.board, *h, p.entry);
+  if (ownPages ? !r.board.isEnabled(p.entry) : steps.empty()) {
     std::fprintf(stderr, "tolmar-cli print: %s is disabled on the board\n",
                  std::string(board::controlName(p.entry)).c_str());
     return 2;
@@ -304,6 +321,9 @@ int run(const Args& args) {
         return 2;
       }
       printPatterns(surface, *h, host, plan, p.paperName);
+    } else if (p.stability) {
+      PrintJob job{surface, *h, host};
+      fmenu_P_Stability(job);
     } else {
       PrintJob job{surface, *h, host};
       PrintSteps entry(job, r.board);
@@ -327,7 +347,8 @@ Register reg({"print", kUsage,
               "  patterns (every plate and end plate at 1:1 on tiles of the paper that\n"
               "  overlap by --overlap-mm, 5 to 50, after a map of the tiles; --plates\n"
               "  names the plates, as tolmar-cli dump lists them), panels (the panel\n"
-              "  offsets of every plate, as tolmar-cli offsets gives them).\n"
+              "  offsets of every plate, as tolmar-cli offsets gives them), stability (GZ\n"
+              "  and hydrostatic curves with their tables, from the mass budget).\n"
               "  A4 portrait unless told; texts in English unless --lang fr.  The page\n"
               "  lies inside a margin of --margin-mm (5 mm) at 568 twips to the centimetre;\n"
               "  --calibrate gives a printer's stretch measured on the 200 mm bar of\n"

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "windows/sheets_window.h"
+#include "windows/stability_window.h"
 
 namespace tolmar::gui {
 
@@ -16,6 +17,7 @@ const std::vector<BuildEntry>& buildEntries() {
   static const std::vector<BuildEntry> entries = {
       {"fmenu_B_Sheets", "Panneaux de contreplaqué…", "Plywood sheets…", planksDrawn,
        openSheetsWindow},
+      {"fmenu_B_Stability", "Stabilité…", "Stability…", planksDrawn, openStabilityWindow},
   };
   return entries;
 }

@@ -33,4 +33,8 @@ std::string notAHull(const std::string& path, const HullStore& read);
 // The entries of the print menu; false for another control.
 bool printEntry(BoardWindows& w, HullStore& h, board::BoardState& b, board::BoardControl c);
 
+// "Stability" at the end of the print menu: the righting-arm and
+// hydrostatic curves from the mass budget; false when nothing was printed.
+bool printStabilityEntry(BoardWindows& w, HullStore& h);
+
 }  // namespace tolmar::gui

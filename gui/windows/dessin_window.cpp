@@ -13,7 +13,9 @@
 
 #include "board/fold_drawing.h"
 #include "devcheck/checked_drawing.h"
+#include "windows/board_commands.h"
 #include "windows/busy_cursor.h"
+#include "windows/command_steps.h"
 #include "windows/field_widgets.h"
 #include "windows/hull_view_window.h"
 #include "windows/plan_widget.h"
@@ -128,6 +130,13 @@ void DessinWindow::buildMenu() {
     }
     actions_[board::index(e.control)] = a;
   }
+  // "Stability" at the end of the print menu: pages of this program's own.
+  if (QMenu* printMenu = actions_[board::index(C::fmenu_Print)]->menu()) {
+    printStability_ = printMenu->addAction(QString());
+    printStability_->setObjectName("fmenu_P_Stability");
+    connect(printStability_, &QAction::triggered, this,
+            [this] { printStabilityEntry(BoardWindows::of(this, s_.store()), s_.store()); });
+  }
 }
 
 void DessinWindow::buildAddedEntries() {
@@ -231,6 +240,10 @@ void DessinWindow::syncFromModel() {
   }
   for (BoardControl c : kButtons) button(c)->setText(captionOf(c, captionLangue_));
   buildMenu_->sync(b_, captionLangue_);
+  if (printStability_) {
+    printStability_->setText(captionLangue_ == 0 ? QString::fromUtf8("Stabilité") : "Stability");
+    printStability_->setEnabled(b_.stepIndex >= 1 && b_.isEnabled(C::fmenu_P_Tout));
+  }
   label1_->setText(captionOf(C::Label1, captionLangue_));
   label2_->setText(captionOf(C::Label2, captionLangue_));
   if (text1_->text() != qtText(b_.text1)) text1_->setText(qtText(b_.text1));

@@ -95,6 +95,7 @@ class DessinWindow : public QMainWindow {
   QLineEdit* text1_ = nullptr;
   QLineEdit* text2_ = nullptr;
   BuildMenu* buildMenu_ = nullptr;
+  QAction* printStability_ = nullptr;  // the print menu's "Stability"
   QLabel* foldLine_ = nullptr;
   QMenu* build_ = nullptr;
   QAction* view3d_ = nullptr;

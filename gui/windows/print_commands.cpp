@@ -8,6 +8,7 @@
 #include "printing/print_host.h"
 #include "printing/print_job.h"
 #include "printing/print_menu.h"
+#include "printing/stability_page.h"
 #include "windows/command_steps.h"
 #include "windows/file_dialog.h"
 #include "windows/printer_dialog.h"
@@ -78,6 +79,14 @@ bool printEntry(BoardWindows& w, HullStore& h, board::BoardState& b, board::Boar
     pages(job);
   });
   return true;
+}
+
+bool printStabilityEntry(BoardWindows& w, HullStore& h) {
+  BoardPrintHost host(w.files());
+  return printDocument(w.files(), w.printers(), h, [&](DrawingSurface& s) {
+           PrintJob job{s, h, host};
+           fmenu_P_Stability(job);
+         }) == PrintOutcome::printed;
 }
 
 }  // namespace tolmar::gui
