@@ -52,6 +52,18 @@ void printWarnings(const PipelineResult& r) {
   printFolds(r.board.folds, r.langue);
 }
 
+int prepareSessionHull(const SessionArgs& session, const char* command, HullStore& h,
+                       PipelineResult& r) {
+  PipelineOptions o;
+  o.hullFile = session.file;
+  o.sets = session.sets;
+  o.autoPlanking = session.autoPlanking;
+  r = prepareHull(h, o);
+  printWarnings(r);
+  if (r.status != 0) std::fprintf(stderr, "tolmar-cli %s: %s\n", command, r.error.c_str());
+  return r.status;
+}
+
 void printFolds(const FoldReport& folds, int langue) {
   for (const FoldStretch& s : folds.stretches)
     std::fprintf(stderr, "warning: %s\n", foldSentence(s, langue).c_str());

@@ -23,6 +23,11 @@ bool parseSessionArgs(const Args& args, bool allowAuto, SessionArgs& out);
 // Every replaced field, then every stretch where the hull folds, one line
 // each, on stderr.
 void printWarnings(const PipelineResult& r);
+// Reads the session's hull file into `h` and runs the screens on it with its
+// --set values (and --auto), printing the warnings; on failure prints
+// "tolmar-cli COMMAND: why" and returns the status to exit with, else 0.
+int prepareSessionHull(const SessionArgs& session, const char* command, HullStore& h,
+                       PipelineResult& r);
 // Only the folds: "warning: Plank 1 folds under line 1 from X = ...".
 void printFolds(const FoldReport& folds, int langue);
 

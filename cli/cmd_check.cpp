@@ -93,17 +93,9 @@ json plateJson(const PlateCheck& c) {
 int run(const Args& args) {
   CheckArgs a;
   if (!parseCheckArgs(args, a)) return 2;
-  PipelineOptions o;
-  o.hullFile = a.session.file;
-  o.sets = a.session.sets;
-  o.autoPlanking = a.session.autoPlanking;
   auto h = std::make_unique<HullStore>();
-  const PipelineResult r = prepareHull(*h, o);
-  printWarnings(r);
-  if (r.status != 0) {
-    std::fprintf(stderr, "tolmar-cli check: %s\n", r.error.c_str());
-    return r.status;
-  }
+  PipelineResult r;
+  if (const int status = prepareSessionHull(a.session, "check", *h, r)) return status;
   CheckOptions co;
   co.factor = a.factor;
   co.assumedThickness = a.thicknessMm / 1000;

@@ -13,6 +13,7 @@
 #include "analysis/hydro_screen.h"
 #include "cli_session_args.h"
 #include "command.h"
+#include "gui_application.h"
 #include "number_arg.h"
 #include "pipeline.h"
 #include "qtdraw/hull_picture.h"
@@ -34,12 +35,6 @@ bool parseSize(const std::string& s, QSize& out) {
   } catch (...) {
     return false;
   }
-}
-
-// Qt's notes about the offscreen platform and its runtime folder are no
-// concern of the command's user; its errors still reach stderr.
-void quietQt(QtMsgType type, const QMessageLogContext&, const QString& msg) {
-  if (type == QtCriticalMsg || type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(msg));
 }
 
 constexpr const char* kUsage =
@@ -133,15 +128,7 @@ int run(const Args& args) {
 
   // The fonts need a GUI application; without a display the offscreen
   // platform serves.
-  std::unique_ptr<QGuiApplication> app;
-  if (!QCoreApplication::instance()) {
-    qInstallMessageHandler(quietQt);
-    if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    static int argc = 1;
-    static char name[] = "tolmar-cli";
-    static char* argv[] = {name, nullptr};
-    app = std::make_unique<QGuiApplication>(argc, argv);
-  }
+  const auto app = guiApplication();
   const std::string error = qtdraw::writeHullPicture(*h, files[1], pic);
   if (!error.empty()) {
     std::fprintf(stderr, "tolmar-cli draw: %s\n", error.c_str());

@@ -16,6 +16,7 @@
 #include <string>
 
 #include "command.h"
+#include "gui_application.h"
 #include "hull/fold_check.h"
 #include "io/safe_write.h"
 #include "pipeline.h"
@@ -31,10 +32,6 @@ constexpr const char* kUsage =
 int usage() {
   std::fprintf(stderr, "usage: tolmar-cli draw3d %s\n", kUsage);
   return 2;
-}
-
-void quietQt(QtMsgType type, const QMessageLogContext&, const QString& msg) {
-  if (type == QtCriticalMsg || type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(msg));
 }
 
 bool parseSize(const std::string& s, int& w, int& h) {
@@ -116,17 +113,7 @@ int run(const Args& args) {
     return 2;
   }
 
-  std::unique_ptr<QGuiApplication> app;
-  if (!QCoreApplication::instance()) {
-    qInstallMessageHandler(quietQt);
-    // With a display (Xvfb serves) OpenGL comes through it.
-    if (!std::getenv("QT_QPA_PLATFORM") && !std::getenv("DISPLAY"))
-      setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    static int argc = 1;
-    static char name[] = "tolmar-cli";
-    static char* argv[] = {name, nullptr};
-    app = std::make_unique<QGuiApplication>(argc, argv);
-  }
+  const auto app = guiApplication(GuiPlatform::DisplayWhenThere);
   QOpenGLContext ctx;
   QOffscreenSurface surface;
   surface.create();

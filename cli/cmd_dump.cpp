@@ -77,17 +77,9 @@ json dumpDocument(HullStore& h, const PipelineResult& r) {
 int run(const Args& args) {
   SessionArgs a;
   if (!parseSessionArgs(args, true, a)) return 2;
-  PipelineOptions o;
-  o.hullFile = a.file;
-  o.sets = a.sets;
-  o.autoPlanking = a.autoPlanking;
   auto h = std::make_unique<HullStore>();
-  const PipelineResult r = prepareHull(*h, o);
-  printWarnings(r);
-  if (r.status != 0) {
-    std::fprintf(stderr, "tolmar-cli dump: %s\n", r.error.c_str());
-    return r.status;
-  }
+  PipelineResult r;
+  if (const int status = prepareSessionHull(a, "dump", *h, r)) return status;
   const std::string text = dumpJson(dumpDocument(*h, r)) + "\n";
   std::fwrite(text.data(), 1, text.size(), stdout);
   return 0;

@@ -118,17 +118,9 @@ int run(const Args& args) {
   OffsetArgs a;
   SessionArgs session;
   if (const int status = parseArgs(args, a, session)) return status;
-  PipelineOptions o;
-  o.hullFile = session.file;
-  o.sets = session.sets;
-  o.autoPlanking = session.autoPlanking;
   auto h = std::make_unique<HullStore>();
-  const PipelineResult r = prepareHull(*h, o);
-  printWarnings(r);
-  if (r.status != 0) {
-    std::fprintf(stderr, "tolmar-cli offsets: %s\n", r.error.c_str());
-    return r.status;
-  }
+  PipelineResult r;
+  if (const int status = prepareSessionHull(session, "offsets", *h, r)) return status;
   const int langue = a.langue.value_or(h->langue == 0 ? 0 : 1);
   if (const std::string why = stepError(a.stepMm, langue); !why.empty()) {
     std::fprintf(stderr, "tolmar-cli offsets: %s\n", why.c_str());

@@ -24,6 +24,7 @@
 #include "cli_session_args.h"
 #include "command.h"
 #include "development/developed_plate.h"
+#include "gui_application.h"
 #include "hull/fold_check.h"
 #include "io/safe_write.h"
 #include "pipeline.h"
@@ -163,24 +164,6 @@ std::string paperError(const PrintArgs& p, int langue) {
   return {};
 }
 
-// Qt's notes about the offscreen platform are no concern of the command's
-// user; its errors still reach stderr.
-void quietQt(QtMsgType type, const QMessageLogContext&, const QString& msg) {
-  if (type == QtCriticalMsg || type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(msg));
-}
-
-// The fonts need a GUI application; without a display the offscreen
-// platform serves.
-std::unique_ptr<QGuiApplication> guiApplication() {
-  if (QCoreApplication::instance()) return nullptr;
-  qInstallMessageHandler(quietQt);
-  if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  static int argc = 1;
-  static char name[] = "tolmar-cli";
-  static char* argv[] = {name, nullptr};
-  return std::make_unique<QGuiApplication>(argc, argv);
-}
-
 // The steps of a print entry, run by the board's runner: Draw station's
 // part on the board first for the station sheet, then the document.
 class PrintSteps : public board::StepHost {
@@ -231,17 +214,9 @@ int run(const Args& args) {
   SessionArgs session;
   if (const int status = parseArgs(args, p, session)) return status;
 
-  PipelineOptions o;
-  o.hullFile = session.file;
-  o.sets = session.sets;
-  o.autoPlanking = session.autoPlanking;
   auto h = std::make_unique<HullStore>();
-  PipelineResult r = prepareHull(*h, o);
-  printWarnings(r);
-  if (r.status != 0) {
-    std::fprintf(stderr, "tolmar-cli print: %s\n", r.error.c_str());
-    return r.status;
-  }
+  PipelineResult r;
+  if (const int status = prepareSessionHull(session, "print", *h, r)) return status;
   if (p.langue) h->langue = static_cast<i16>(*p.langue);
   if (p.station) r.board.text1 = *p.station;
   if (const std::string why = paperError(p, h->langue); !why.empty()) {

@@ -17,6 +17,7 @@
 #include "cli_session_args.h"
 #include "command.h"
 #include "export/text_sink.h"
+#include "gui_application.h"
 #include "io/safe_write.h"
 #include "pipeline.h"
 #include "qtdraw/sheets_pdf.h"
@@ -141,22 +142,6 @@ int parseArgs(const Args& args, SheetsArgs& p, SessionArgs& session) {
   return parseSessionArgs(sessionArgs, true, session) ? 0 : 2;
 }
 
-void quietQt(QtMsgType type, const QMessageLogContext&, const QString& msg) {
-  if (type == QtCriticalMsg || type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(msg));
-}
-
-// The fonts of the PDF need a GUI application; without a display the
-// offscreen platform serves.
-std::unique_ptr<QGuiApplication> guiApplication() {
-  if (QCoreApplication::instance()) return nullptr;
-  qInstallMessageHandler(quietQt);
-  if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  static int argc = 1;
-  static char name[] = "tolmar-cli";
-  static char* argv[] = {name, nullptr};
-  return std::make_unique<QGuiApplication>(argc, argv);
-}
-
 // The name stem of the files: the hull's name as the plate files take it,
 // without what a file name cannot hold.
 std::string fileStem(const HullStore& h, const std::filesystem::path& hullFile) {
@@ -174,17 +159,9 @@ int run(const Args& args) {
   SessionArgs session;
   if (const int status = parseArgs(args, p, session)) return status;
 
-  PipelineOptions o;
-  o.hullFile = session.file;
-  o.sets = session.sets;
-  o.autoPlanking = session.autoPlanking;
   auto h = std::make_unique<HullStore>();
-  const PipelineResult r = prepareHull(*h, o);
-  printWarnings(r);
-  if (r.status != 0) {
-    std::fprintf(stderr, "tolmar-cli sheets: %s\n", r.error.c_str());
-    return r.status;
-  }
+  PipelineResult r;
+  if (const int status = prepareSessionHull(session, "sheets", *h, r)) return status;
   if (p.langue) h->langue = static_cast<i16>(*p.langue);
   const int langue = h->langue;
 

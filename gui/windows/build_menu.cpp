@@ -40,6 +40,11 @@ void BuildMenu::sync(const board::BoardState& b, int langue) {
   for (std::size_t i = 0; i < entries.size(); ++i) {
     actions_[i]->setText(QString::fromUtf8(langue == 0 ? entries[i].french : entries[i].english));
     actions_[i]->setEnabled(entries[i].enabled(b));
+    // A window that follows the hull (a `follow()` it can be asked for)
+    // computes again once the hull changed, while its entry is enabled.
+    QWidget* w = windows_[i].data();
+    if (w && actions_[i]->isEnabled() && w->metaObject()->indexOfMethod("follow()") >= 0)
+      QMetaObject::invokeMethod(w, "follow", Qt::DirectConnection);
   }
 }
 

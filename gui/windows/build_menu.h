@@ -38,7 +38,8 @@ class BuildMenu : public QObject {
   // Adds the entries to the board's Build menu `menu`.
   BuildMenu(QMenu* menu, QWidget* board, const HullStore& h);
 
-  // Captions by langue (0 French, 1 English) and enabling by the board.
+  // Captions by langue (0 French, 1 English) and enabling by the board;
+  // an open window with an invokable follow() is asked to follow the hull.
   void sync(const board::BoardState& b, int langue);
 
   QMenu* menu() const { return menu_; }

@@ -174,6 +174,9 @@ void DessinWindow::buildAddedEntries() {
   devCheck_->setObjectName("fmenu_B_DevCheck");
   connect(devCheck_, &QAction::triggered, this, [this] {
     if (!devCheck_->isEnabled()) return;
+    // A window in another language than the hull's now is made anew.
+    if (devCheckWindow_ && devCheckWindow_->langue() != s_.store().langue)
+      delete devCheckWindow_.data();
     if (!devCheckWindow_) {
       // The patterns in their verdicts' colours over the picture; Developer
       // draws the board's own figure again.
@@ -181,6 +184,7 @@ void DessinWindow::buildAddedEntries() {
           this, s_.store(),
           [this](const std::vector<DevelopedPlate>& plates, const devcheck::CheckReport& r) {
             devcheck::drawCheckedPlates(plan_->surface(), s_.store(), plates, r);
+            devcheck::drawVerdictLegend(plan_->surface(), devCheckWindow_->langue());
             plan_->update();
           });
       devCheckWindow_->setAttribute(Qt::WA_DeleteOnClose);
@@ -269,6 +273,8 @@ void DessinWindow::syncFromModel() {
   if (view3dWindow_ && drawn) view3dWindow_->follow();
   devCheck_->setText(QString::fromUtf8(fr ? "Contrôle du développement…" : "Development check…"));
   devCheck_->setEnabled(b_.isEnabled(C::Developer));
+  // Like the 3-D view, the check follows the hull redrawn.
+  if (devCheckWindow_ && devCheck_->isEnabled()) devCheckWindow_->follow();
 
   const QString folds = qtText(b_.folds.message(s_.store().langue));
   if (folds != foldLine_->text()) {

@@ -31,14 +31,19 @@ constexpr const char* kThicknessKey = "devcheck/thicknessMm";
 }  // namespace
 
 DevCheckWindow::DevCheckWindow(QWidget* parent, const HullStore& h, DrawOnBoard draw)
-    : QWidget(parent, Qt::Window), h_(h), drawOnBoard_(std::move(draw)) {
+    : QWidget(parent, Qt::Window),
+      h_(h),
+      langue_(h.langue),
+      watch_(h),
+      drawOnBoard_(std::move(draw)) {
   setObjectName("devcheck");
-  const bool fr = h.langue == 0;
-  setWindowTitle(q(devcheck::checkTitle(h.langue)));
+  const bool fr = langue_ == 0;
+  setWindowTitle(q(devcheck::checkTitle(langue_)));
   table_ = new QTableWidget(this);
   table_->setObjectName("table");
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->verticalHeader()->hide();
+  table_->horizontalHeader()->setStretchLastSection(true);
   factor_ = new QDoubleSpinBox(this);
   factor_->setObjectName("factor");
   factor_->setRange(0.1, 10);
@@ -57,6 +62,22 @@ DevCheckWindow::DevCheckWindow(QWidget* parent, const HullStore& h, DrawOnBoard 
   notes_ = new QLabel(this);
   notes_->setObjectName("notes");
   notes_->setWordWrap(true);
+  // The colours of the rows, and of the patterns the button draws.
+  auto* legend = new QHBoxLayout;
+  legend->addWidget(new QLabel(
+      fr ? "Couleurs, ici et sur la planche :" : "Colours, here and on the board:", this));
+  for (const devcheck::Verdict v :
+       {devcheck::Verdict::fits, devcheck::Verdict::tight, devcheck::Verdict::willNotBend}) {
+    auto* l = new QLabel(QString::fromUtf8("\u25A0 ") + q(devcheck::verdictText(v, langue_)), this);
+    l->setObjectName(QString("legend%1").arg(static_cast<int>(v)));
+    QPalette p = l->palette();
+    p.setColor(QPalette::WindowText, colourOf(devcheck::verdictColour(v)));
+    l->setPalette(p);
+    legend_[static_cast<int>(v)] = l;
+    legend->addSpacing(12);
+    legend->addWidget(l);
+  }
+  legend->addStretch();
 
   auto* form = new QFormLayout;
   form->addRow(fr ? "Facteur du contreplaqué" : "Plywood factor", factor_);
@@ -68,6 +89,7 @@ DevCheckWindow::DevCheckWindow(QWidget* parent, const HullStore& h, DrawOnBoard 
   auto* v = new QVBoxLayout(this);
   v->addLayout(top);
   v->addWidget(table_, 1);
+  v->addLayout(legend);
   v->addWidget(notes_);
 
   auto changed = [this] {
@@ -85,8 +107,12 @@ DevCheckWindow::DevCheckWindow(QWidget* parent, const HullStore& h, DrawOnBoard 
   refresh();
 }
 
+void DevCheckWindow::follow() {
+  if (watch_.changed()) refresh();
+}
+
 void DevCheckWindow::refresh() {
-  const int langue = h_.langue;
+  const int langue = langue_;
   devcheck::CheckOptions o;
   o.factor = factor_->value();
   o.assumedThickness = thickness_->value() / 1000;

@@ -14,6 +14,7 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -61,6 +62,15 @@ QLineEdit* numberField(QWidget* parent, const char* name, const QString& value =
   return e;
 }
 
+// A field wide enough for its placeholder to show whole.
+void showPlaceholder(QLineEdit* e, const QString& text) {
+  e->setPlaceholderText(text);
+  const int wide =
+      e->fontMetrics().horizontalAdvance(text) + 2 * e->fontMetrics().averageCharWidth() + 12;
+  e->setMaximumWidth(std::max(110, wide));
+  e->setMinimumWidth(wide);
+}
+
 void fillTable(QTableWidget* w, const stability::Table& t) {
   w->clear();
   w->setColumnCount(static_cast<int>(t.head.size()));
@@ -82,6 +92,8 @@ void fillTable(QTableWidget* w, const stability::Table& t) {
 
 StabilityWindow::StabilityWindow(QWidget* board, const HullStore& h)
     : QWidget(board, Qt::Window),
+      board_(h),
+      watch_(h),
       h_(withMassBudget(h)),
       langue_(h.langue),
       files_(std::make_unique<CmDialog1>(this)),
@@ -91,7 +103,8 @@ StabilityWindow::StabilityWindow(QWidget* board, const HullStore& h)
   setTexts();
   loadSettings();
   compute();
-  resize(1200, 760);
+  // Wide enough for the four tabs' titles in French beside the fields.
+  resize(1320, 760);
 }
 
 StabilityWindow::~StabilityWindow() = default;
@@ -178,6 +191,9 @@ void StabilityWindow::buildControls() {
 
   tabs_ = new QTabWidget(split);
   tabs_->setObjectName("tabs");
+  // Narrowed, the titles are cut short rather than scrolled out of sight.
+  tabs_->setElideMode(Qt::ElideRight);
+  tabs_->setUsesScrollButtons(false);
   gzPlot_ = new SurfacePlot(tabs_);
   gzPlot_->setObjectName("gzPlot");
   curvesPlot_ = new SurfacePlot(tabs_);
@@ -217,8 +233,8 @@ void StabilityWindow::setTexts() {
   labels_[4]->setText(caption(Text::crewMass, l));
   labels_[5]->setText(caption(Text::crewY, l));
   labels_[6]->setText(caption(Text::curveStep, l));
-  lcg_->setPlaceholderText(caption(Text::fromBudget, l));
-  kg_->setPlaceholderText(caption(Text::fromBudget, l));
+  showPlaceholder(lcg_, caption(Text::fromBudget, l));
+  showPlaceholder(kg_, caption(Text::fromBudget, l));
   // The mass budget's own captions for its equipment rows.
   analysis::Mass1 mass;
   analysis::loadMass(mass, *h_);
@@ -227,7 +243,7 @@ void StabilityWindow::setTexts() {
     const int row = 13 + j;
     equipLabels_[j]->setText(qtText(mass.Label3(row).caption) + " (" +
                              QString::number(h_->equipMass(j + 1), 'f', 1) + " kg)");
-    equip_[j]->setPlaceholderText(caption(Text::onKeel, l));
+    showPlaceholder(equip_[j], caption(Text::onKeel, l));
   }
   compute_->setText(caption(Text::compute, l));
   print_->setText(caption(Text::print, l));
@@ -236,6 +252,7 @@ void StabilityWindow::setTexts() {
   tabs_->setTabText(1, caption(Text::curvesTitle, l));
   tabs_->setTabText(2, caption(Text::gzTable, l));
   tabs_->setTabText(3, caption(Text::curvesTable, l));
+  for (int i = 0; i < tabs_->count(); ++i) tabs_->setTabToolTip(i, tabs_->tabText(i));
 }
 
 QLineEdit* StabilityWindow::field(const char* objectName) const {
@@ -302,6 +319,21 @@ void StabilityWindow::showResult() {
   });
   fillTable(gzTable_, gzTable(result_, langue_));
   fillTable(curvesTable_, curvesTable(result_.curves, langue_));
+}
+
+void StabilityWindow::follow() {
+  if (!watch_.changed()) return;
+  h_ = withMassBudget(board_);
+  setTexts();
+  StabilityOptions o;
+  if (!readOptions(o)) {
+    // What was shown belongs to the hull before: it goes, the message stays.
+    result_ = {};
+    result_.error = message_->text().toStdString();
+    showResult();
+    return;
+  }
+  compute();
 }
 
 bool StabilityWindow::print() {

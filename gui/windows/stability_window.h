@@ -4,7 +4,9 @@
 // hydrostatic curves; the righting-arm curve with its marked angles, the
 // hydrostatic curves against draft and their tables, drawn on the
 // program's drawing surface as the printed pages draw them.  The water
-// chosen and the steps are remembered between runs.
+// chosen and the steps are remembered between runs.  It follows the hull:
+// after a redraw on the board that changed it, the window computes again
+// with the values typed.
 #pragma once
 
 #include <QWidget>
@@ -13,6 +15,7 @@
 
 #include "hull/hull_store.h"
 #include "stability/stability_run.h"
+#include "windows/hull_watch.h"
 
 class QComboBox;
 class QLabel;
@@ -39,6 +42,9 @@ class StabilityWindow : public QWidget {
   bool readOptions(stability::StabilityOptions& o);
   void compute();
   bool print();  // the printed pages of the last result
+  // Computes again on the board's hull if it changed since the window last
+  // took it (the Build menu asks after every event of the board).
+  Q_INVOKABLE void follow();
 
   const stability::StabilityResult& result() const { return result_; }
   QLabel* message() const { return message_; }
@@ -54,7 +60,9 @@ class StabilityWindow : public QWidget {
   void loadSettings();
   void saveSettings() const;
 
-  std::unique_ptr<HullStore> h_;  // the hull as opened, its mass budget run
+  const HullStore& board_;  // the board's hull
+  HullWatch watch_;
+  std::unique_ptr<HullStore> h_;  // the board's hull when last taken, its mass budget run
   int langue_ = 1;
   stability::StabilityResult result_;
   std::unique_ptr<CmDialog1> files_;

@@ -2,6 +2,7 @@
 
 #include "hull/hull_store.h"
 #include "text/number_format.h"
+#include "text/number_text.h"
 
 namespace tolmar::devcheck {
 
@@ -18,6 +19,22 @@ std::string figure(double v, const char* picture) {
   std::string t = formatNumber(v, picture);
   if (t.size() > 1 && t[0] == '-' && t.find_first_not_of("-0.") == std::string::npos) t.erase(0, 1);
   return t;
+}
+
+// The exports' name of the plate, its kind in French where the name is a
+// word: "pont 2", "tableau", "marotte".
+std::string plateName(const PlateCheck& c, int langue) {
+  if (langue != 0) return c.name;
+  switch (c.kind) {
+    case PlateKind::deck:
+      return "pont" + hullNumberText(c.index);
+    case PlateKind::transom:
+      return "tableau";
+    case PlateKind::pramBow:
+      return "marotte";
+    default:
+      return c.name;
+  }
 }
 
 std::string place(double r, double x) {
@@ -39,7 +56,7 @@ std::vector<std::string> checkHeads(int langue) {
 }
 
 std::vector<std::string> checkCells(const PlateCheck& c, int langue) {
-  std::string name = c.name;
+  std::string name = plateName(c, langue);
   if (c.withLap) name += pick(langue, " + clin", " + lap");
   std::string verdict = verdictText(c.verdict, langue);
   if (c.twisted) verdict += pick(langue, " ; non développable", "; not developable");
@@ -80,7 +97,8 @@ std::int32_t verdictColour(Verdict v) {
     case Verdict::fits:
       return rgb(0, 140, 0);
     case Verdict::tight:
-      return rgb(230, 130, 0);
+      // Dark enough to read as text on white, as the other two are.
+      return rgb(190, 95, 0);
     case Verdict::willNotBend:
       return rgb(210, 0, 0);
   }

@@ -1,5 +1,6 @@
 #include "devcheck/checked_drawing.h"
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 
@@ -83,6 +84,32 @@ void drawCheckedPlates(DrawingSurface& s, const HullStore& h,
         s.LineTo(x, y);
       }
     }
+  }
+  s.ForeColor = colour;
+  s.DrawWidth = width;
+  s.DrawStyle = style;
+}
+
+void drawVerdictLegend(DrawingSurface& s, int langue) {
+  const Colour colour = s.ForeColor;
+  const auto width = s.DrawWidth;
+  const auto style = s.DrawStyle;
+  const Verdict verdicts[] = {Verdict::fits, Verdict::tight, Verdict::willNotBend};
+  const float line = s.TextHeight("X");
+  float widest = 0;
+  for (Verdict v : verdicts) widest = std::max(widest, s.TextWidth(verdictText(v, langue)));
+  const float stroke = 3 * line;
+  const float left = s.ScaleLeft + s.ScaleWidth - line - stroke - line / 2 - widest;
+  float top = s.ScaleTop + s.ScaleHeight - line / 2 - 3.2f * line;
+  s.DrawWidth = 2;
+  s.DrawStyle = kStyleSolid;
+  for (Verdict v : verdicts) {
+    s.ForeColor = verdictColour(v);
+    s.Line(left, top + line / 2, left + stroke, top + line / 2);
+    s.CurrentX = left + stroke + line / 2;
+    s.CurrentY = top;
+    s.Print(verdictText(v, langue));
+    top += 1.1f * line;
   }
   s.ForeColor = colour;
   s.DrawWidth = width;

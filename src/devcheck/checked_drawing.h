@@ -20,4 +20,9 @@ namespace tolmar::devcheck {
 void drawCheckedPlates(DrawingSurface& s, const HullStore& h,
                        const std::vector<DevelopedPlate>& plates, const CheckReport& r);
 
+// The key to those colours in the bottom right corner of the picture, where
+// the views leave room: a stroke and the verdict's text per verdict, in
+// langue (0 French).  The pen ends as it was.
+void drawVerdictLegend(DrawingSurface& s, int langue);
+
 }  // namespace tolmar::devcheck

@@ -23,9 +23,11 @@ TEST(CliPrintCheck, OnePageInEitherLanguage) {
     const char* flag;
     const char* title;
     const char* head;
+    const char* deck;
+    const char* transom;
   };
-  for (const Lang l : {Lang{"en", "Development check", "R across m"},
-                       Lang{"fr", "Contrôle du développement", "R trav m"}}) {
+  for (const Lang l : {Lang{"en", "Development check", "R across m", "deck 5", "transom"},
+                       Lang{"fr", "Contrôle du développement", "R trav m", "pont 5", "tableau"}}) {
     std::string args = "print '";
     args.append(hull).append("' check '").append(pdf.string()).append("' --lang ").append(l.flag);
     const auto r = runCli(args);
@@ -34,7 +36,7 @@ TEST(CliPrintCheck, OnePageInEitherLanguage) {
     const std::string text = tolmar::testing::pageText(pdf, 1);
     EXPECT_NE(text.find(l.title), std::string::npos) << text;
     EXPECT_NE(text.find(l.head), std::string::npos) << text;
-    for (const char* plate : {"p00", "p04", "deck 5", "transom", "TT-003A"})
+    for (const char* plate : {"p00", "p04", l.deck, l.transom, "TT-003A"})
       EXPECT_NE(text.find(plate), std::string::npos) << plate;
     EXPECT_EQ(text.find("nan"), std::string::npos);
   }

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include "development/hull_fixture.h"
 
 namespace tolmar::devcheck {
@@ -18,7 +21,11 @@ TEST(CheckTable, EveryRowUnderItsHeadsInBothLanguages) {
     for (const PlateCheck& c : r.plates) {
       const std::vector<std::string> cells = checkCells(c, langue);
       ASSERT_EQ(cells.size(), heads.size());
-      EXPECT_EQ(cells.front(), c.name);
+      // The exports' names, their words in French.
+      if (langue == 1 || c.kind == PlateKind::bottom || c.kind == PlateKind::plank)
+        EXPECT_EQ(cells.front(), c.name);
+      else
+        EXPECT_NE(cells.front(), c.name);
       EXPECT_EQ(cells.back(), verdictText(c.verdict, langue));
       for (const std::string& s : cells) {
         EXPECT_EQ(s.find("nan"), std::string::npos) << s;
@@ -29,6 +36,11 @@ TEST(CheckTable, EveryRowUnderItsHeadsInBothLanguages) {
     }
     EXPECT_EQ(checkNotes(r, {}, langue).size(), 3u);
   }
+  std::vector<std::string> french;
+  for (const PlateCheck& c : r.plates) french.push_back(checkCells(c, 0).front());
+  EXPECT_NE(std::find(french.begin(), french.end(), "pont 1"), french.end());
+  EXPECT_NE(std::find(french.begin(), french.end(), "tableau"), french.end());
+  EXPECT_NE(std::find(french.begin(), french.end(), "marotte"), french.end());
   EXPECT_EQ(checkTitle(0), "Contrôle du développement");
   EXPECT_EQ(checkTitle(1), "Development check");
 }
@@ -53,7 +65,21 @@ TEST(CheckTable, FlatPlatesLapsAndFlags) {
   const std::vector<std::string> fr = checkCells(c, 0);
   EXPECT_EQ(fr[0], "p02 + clin");
   EXPECT_EQ(fr[6], "plat");
-  EXPECT_NE(verdictColour(Verdict::fits), verdictColour(Verdict::willNotBend));
+  // Three colours apart, each dark enough for text on white (a contrast of
+  // 4 or more, as the window's rows and the printed page use them).
+  const auto luminance = [](std::int32_t c) {
+    const auto lin = [](int v) {
+      const double s = v / 255.0;
+      return s <= 0.03928 ? s / 12.92 : std::pow((s + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * lin(c & 0xff) + 0.7152 * lin((c >> 8) & 0xff) + 0.0722 * lin((c >> 16) & 0xff);
+  };
+  const std::int32_t colours[] = {verdictColour(Verdict::fits), verdictColour(Verdict::tight),
+                                  verdictColour(Verdict::willNotBend)};
+  for (std::int32_t c : colours) EXPECT_GE(1.05 / (luminance(c) + 0.05), 4.0) << c;
+  EXPECT_NE(colours[0], colours[1]);
+  EXPECT_NE(colours[1], colours[2]);
+  EXPECT_NE(colours[0], colours[2]);
 }
 
 }  // namespace
