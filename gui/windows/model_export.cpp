@@ -88,6 +88,7 @@ ModelExportDialog::ModelExportDialog(QWidget* board, const HullStore& h)
   box->addLayout(form);
   box->addWidget(message_);
   box->addWidget(buttons);
+  setMinimumWidth(480);
 }
 
 void ModelExportDialog::browse() {
