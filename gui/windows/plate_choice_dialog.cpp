@@ -93,10 +93,11 @@ PlateChoiceDialog::PlateChoiceDialog(PlateDocument doc, const std::vector<Develo
   list_->setObjectName(QStringLiteral("plates"));
   for (const DevelopedPlate& p : plates) {
     if (p.empty()) continue;
-    auto* item =
-        new QListWidgetItem(QString::fromStdString(plateTitle(p, langue)) +
-                                QStringLiteral(" (%1)").arg(QString::fromStdString(p.name)),
-                            list_);
+    // The bottom and the planks also by the name the files and the CLI use.
+    QString text = QString::fromStdString(plateTitle(p, langue));
+    if (p.kind == PlateKind::bottom || p.kind == PlateKind::plank)
+      text += QStringLiteral(" (%1)").arg(QString::fromStdString(p.name));
+    auto* item = new QListWidgetItem(text, list_);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
     item->setCheckState(contains(initial.plates, p.name) ? Qt::Checked : Qt::Unchecked);
     names_.push_back(p.name);
