@@ -63,6 +63,11 @@ bool spanAt(const MmPolygon& p, double x, double& y0, double& y1) {
 
 CutResult cutParts(const std::vector<SheetPart>& parts, const SheetOptions& o, double U,
                    JointStrategy st, int langue) {
+  return cutParts(parts, o, U, std::vector<JointStrategy>(parts.size(), st), langue);
+}
+
+CutResult cutParts(const std::vector<SheetPart>& parts, const SheetOptions& o, double U,
+                   const std::vector<JointStrategy>& perPart, int langue) {
   CutResult r;
   const bool fr = langue == 0;
   for (int pi = 0; pi < static_cast<int>(parts.size()); ++pi) {
@@ -106,7 +111,7 @@ CutResult cutParts(const std::vector<SheetPart>& parts, const SheetOptions& o, d
                   (fr ? ". Choisissez un joint." : ". Pick a joint.");
         return r;
       }
-      at = autoJoints(L, U, s, st);
+      at = autoJoints(L, U, s, perPart[pi]);
       if (at.empty()) {
         r.error = (fr ? "Le joint en biseau de " : "The scarf of ") + part.name + " (" + mm(s) +
                   (fr ? ") est plus long que la feuille." : ") is longer than the sheet.");

@@ -32,6 +32,10 @@ struct CutResult {
 // the sheet's length inside its margins.
 CutResult cutParts(const std::vector<SheetPart>& parts, const SheetOptions& o, double usable,
                    JointStrategy s, int langue);
+// The same with a way of its own for each part (`perPart` as long as
+// `parts`).
+CutResult cutParts(const std::vector<SheetPart>& parts, const SheetOptions& o, double usable,
+                   const std::vector<JointStrategy>& perPart, int langue);
 
 // The extent across the grain of `p` at X = x (the lowest and highest Y of
 // its edges there); false when x misses it.

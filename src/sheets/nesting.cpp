@@ -1,9 +1,13 @@
 #include "sheets/nesting.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <limits>
-#include <numeric>
+#include <thread>
+
+#include "sheets/column_profile.h"
+#include "sheets/nest_orders.h"
 
 namespace tolmar::sheets {
 
@@ -11,8 +15,14 @@ using namespace ClipperLib;
 
 namespace {
 
-// Sheets that still take pieces.
-constexpr std::size_t kOpenSheets = 3;
+// The width of a column: 5 mm.  Finer costs time for little: a plank's
+// edge sloping at 1 in 10 loses half a millimetre a column.
+constexpr cInt kStep = 500;
+// Where a piece starts in a column is rounded to 1 mm, its columns made
+// that much wider.
+constexpr cInt kPhase = 100;
+
+cInt floorDiv(cInt a, cInt b) { return a >= 0 ? a / b : -((-a + b - 1) / b); }
 
 // `p` grown by `grow`, mitred corners (never inside the rounded growth).
 Path grownBy(const Path& p, cInt grow) {
@@ -60,156 +70,246 @@ Box boxOf(const Path& p) {
   return b;
 }
 
-struct Placed {
-  Path grownOutline;  // in sheet coordinates, grown by the kerf
-  Box box;
+// How a pass picks among the places a piece fits on one sheet.
+enum class NestRule {
+  lowest,     // the least Y the piece starts at, then the least X
+  lowestTop,  // the least Y the piece reaches, then the least X
+  leftmost,   // the least X, then the least Y
+};
+
+// A shape in one of its turns: its box, its outline grown by the kerf (as
+// it blocks the pieces after it), and its columns.
+struct Turn {
+  int quarter = 0;
+  Box box{};
+  Path grown;
+  // Its columns for each way it may lie across the sheet's columns: from
+  // its left end on, and for its left end at kPhase q .. q + 1 into a
+  // column, columns from q + 1 before its left end on, kPhase wider.
+  std::vector<ColumnSpan> exact;
+  std::vector<std::vector<ColumnSpan>> phased;
+};
+
+struct Shape {
+  double area = 0;
+  std::vector<Turn> turns;
+};
+
+// A grown piece in one column of a sheet: its span across the grain, and
+// the stretch of the column it takes (less than all of it at its ends).
+struct Held {
+  cInt lo, hi, x0, x1;
 };
 
 struct Sheet {
-  std::vector<Placed> pieces;
-  double freeArea = 0;
+  std::vector<std::vector<Held>> columns;   // each sorted by lo
+  std::vector<std::pair<cInt, cInt>> ends;  // X of the grown pieces' ends
+  double freeArea = 0, usedArea = 0;
 };
 
-// The lowest and highest Y of the edges of `p` at X = x (its cross-section,
-// holes and notches filled); false when x misses it.
-bool crossSection(const Path& p, double x, double& y0, double& y1) {
-  bool hit = false;
-  for (std::size_t i = 0, n = p.size(); i < n; ++i) {
-    const double ax = double(p[i].X), ay = double(p[i].Y);
-    const double bx = double(p[(i + 1) % n].X), by = double(p[(i + 1) % n].Y);
-    if ((ax - x) * (bx - x) > 0) continue;
-    double lo, hi;
-    if (ax == bx) {
-      lo = std::min(ay, by), hi = std::max(ay, by);
-    } else {
-      lo = hi = ay + (by - ay) * (x - ax) / (bx - ax);
+struct Spot {
+  cInt dx = 0, dy = 0;
+};
+
+// The least dy in [fy0, fy1] at which the piece with the spans `cols`,
+// from sheet column c0 on, taking X from x0 to x1 on the sheet, meets
+// nothing held in the sheet's columns; false when there is none.  Only
+// the m first of `cols` count.
+bool lowestAt(const Sheet& s, const std::vector<ColumnSpan>& cols, std::size_t c0, std::size_t m,
+              cInt x0, cInt x1, cInt sheetX0, cInt fy0, cInt fy1, cInt& dy) {
+  dy = fy0;
+  // Round the columns until a whole round moves nothing.
+  std::size_t clean = 0;
+  for (std::size_t j = 0; clean < m; j = (j + 1) % m) {
+    const ColumnSpan& c = cols[j];
+    const cInt cx0 = sheetX0 + cInt(c0 + j) * kStep;
+    const cInt px0 = std::max(x0, cx0), px1 = std::min(x1, cx0 + kStep);
+    if (c.lo > c.hi || px0 >= px1) {
+      ++clean;
+      continue;
     }
-    if (!hit || lo < y0) y0 = lo;
-    if (!hit || hi > y1) y1 = hi;
-    hit = true;
+    bool moved = false;
+    for (const Held& o : s.columns[c0 + j]) {
+      if (o.lo >= dy + c.hi) break;  // sorted by lo: none further meets
+      if (o.hi > dy + c.lo && o.x0 < px1 && px0 < o.x1) {
+        dy = o.hi - c.lo;
+        moved = true;
+        if (dy > fy1) return false;
+      }
+    }
+    clean = moved ? 1 : clean + 1;
   }
-  return hit;
+  return true;
 }
 
-// The shifts dy for which `piece` moved by (dx, dy) meets `other`: an open
-// interval, from the cross-sections at every corner of either within their
-// common stretch of X (both outlines are straight between corners).  With
-// the cross-sections filled the interval can only be too wide, never too
-// narrow.
-bool blockedShifts(const Path& piece, const Box& pb, cInt dx, const Path& other, const Box& ob,
-                   double& lo, double& hi) {
-  const double x0 = double(std::max(pb.x0 + dx, ob.x0)), x1 = double(std::min(pb.x1 + dx, ob.x1));
-  if (x0 >= x1) return false;
-  bool any = false;
-  auto at = [&](double x) {
-    double p0, p1, q0, q1;
-    if (!crossSection(piece, x - double(dx), p0, p1) || !crossSection(other, x, q0, q1)) return;
-    if (!any || q0 - p1 < lo) lo = q0 - p1;
-    if (!any || q1 - p0 > hi) hi = q1 - p0;
-    any = true;
-  };
-  at(x0);
-  at(x1);
-  for (const IntPoint& q : piece)
-    if (double(q.X + dx) > x0 && double(q.X + dx) < x1) at(double(q.X + dx));
-  for (const IntPoint& q : other)
-    if (double(q.X) > x0 && double(q.X) < x1) at(double(q.X));
-  return any && lo < hi;
-}
+class Pass {
+ public:
+  Pass(const NestRequest& r, const std::vector<Shape>& shapes, NestRule rule)
+      : r_(r), shapes_(shapes), rule_(rule) {
+    columns_ =
+        static_cast<std::size_t>(std::max<cInt>(1, floorDiv(r.x1 - r.x0 + kStep - 1, kStep)));
+  }
 
-// The least (x, y) at which the piece `shape` (turned, its reference its
-// own origin) fits on `sheet`; false when it does not.  The X tried are
-// the margin and just past the right end of every piece there; at each,
-// the piece drops to the lowest Y that no piece blocks.
-bool bottomLeft(const Path& shape, const Sheet& sheet, const NestRequest& r, IntPoint& at) {
-  const Box b = boxOf(shape);
-  // Reference positions that keep the piece inside the margins.
-  const cInt fx0 = r.x0 - b.x0, fy0 = r.y0 - b.y0, fx1 = r.x1 - b.x1, fy1 = r.y1 - b.y1;
-  if (fx0 > fx1 || fy0 > fy1) return false;
-  std::vector<cInt> xs = {fx0};
-  for (const Placed& q : sheet.pieces)
-    if (q.box.x1 - b.x0 > fx0 && q.box.x1 - b.x0 <= fx1) xs.push_back(q.box.x1 - b.x0);
-  std::sort(xs.begin(), xs.end());
-  xs.erase(std::unique(xs.begin(), xs.end()), xs.end());
-  for (cInt dx : xs) {
-    std::vector<std::pair<double, double>> blocked;
-    for (const Placed& q : sheet.pieces) {
-      double lo, hi;
-      if (blockedShifts(shape, b, dx, q.grownOutline, q.box, lo, hi)) blocked.emplace_back(lo, hi);
+  NestResult run(const std::vector<std::size_t>& order) {
+    NestResult out;
+    out.places.resize(shapes_.size());
+    for (std::size_t i : order) {
+      const Shape& sh = shapes_[i];
+      if (sh.turns.empty()) continue;
+      bool placed = false;
+      for (std::size_t s = 0; s <= sheets_.size() && !placed; ++s) {
+        if (s == sheets_.size()) newSheet();
+        Sheet& sheet = sheets_[s];
+        if (sheet.freeArea < sh.area) continue;
+        const Turn* bestTurn = nullptr;
+        Spot best;
+        for (const Turn& t : sh.turns) {
+          Spot at;
+          if (bestSpot(sheet, t, at) && (!bestTurn || better(t, at, *bestTurn, best)))
+            best = at, bestTurn = &t;
+        }
+        if (!bestTurn) {
+          if (sheet.usedArea == 0) {
+            sheets_.pop_back();  // fits no sheet at all
+            break;
+          }
+          continue;
+        }
+        place(sheet, *bestTurn, best, sh.area);
+        out.places[i] = {static_cast<int>(s), bestTurn->quarter * 1.5707963267948966, best.dx,
+                         best.dy};
+        placed = true;
+      }
     }
-    std::sort(blocked.begin(), blocked.end());
-    // The lowest dy of [fy0, fy1] in no open interval.
-    double dy = double(fy0);
-    for (const auto& [lo, hi] : blocked)
-      if (lo < dy && dy < hi)
-        dy = std::ceil(hi);
-      else if (lo >= dy)
-        break;
-    // Intervals that began below dy but reach past it were skipped by the
-    // early stop; one more pass settles them.
-    for (bool moved = true; moved;) {
-      moved = false;
-      for (const auto& [lo, hi] : blocked)
-        if (lo < dy && dy < hi) dy = std::ceil(hi), moved = true;
+    out.sheets = static_cast<int>(sheets_.size());
+    out.lastSheetArea = sheets_.empty() ? 0 : sheets_.back().usedArea;
+    return out;
+  }
+
+ private:
+  void newSheet() {
+    Sheet s;
+    s.columns.resize(columns_);
+    s.freeArea = double(r_.x1 - r_.x0) * double(r_.y1 - r_.y0);
+    sheets_.push_back(std::move(s));
+  }
+
+  // Sheet Y of the piece's lowest or highest point at a spot.
+  cInt key(const Turn& t, const Spot& s) const {
+    return s.dy + (rule_ == NestRule::lowestTop ? t.box.y1 : t.box.y0);
+  }
+  bool better(const Turn& t, const Spot& a, const Turn& u, const Spot& b) const {
+    const cInt ax = a.dx + t.box.x0, bx = b.dx + u.box.x0;
+    if (rule_ == NestRule::leftmost) {
+      if (ax != bx) return ax < bx;
+      return key(t, a) < key(u, b);
     }
-    if (dy <= double(fy1)) {
-      at = IntPoint(dx, static_cast<cInt>(dy));
-      return true;
+    if (key(t, a) != key(u, b)) return key(t, a) < key(u, b);
+    return ax < bx;
+  }
+
+  // The X tried: against the sheet's start or end, or just past either
+  // end of a piece there (its grown outline touched).
+  bool bestSpot(const Sheet& sheet, const Turn& t, Spot& best) {
+    const cInt dxMin = r_.x0 - t.box.x0, dxMax = r_.x1 - t.box.x1;
+    const cInt fy0 = r_.y0 - t.box.y0, fy1 = r_.y1 - t.box.y1;
+    if (dxMin > dxMax || fy0 > fy1) return false;
+    std::vector<cInt> dxs = {dxMin, dxMax};
+    for (const auto& [gx0, gx1] : sheet.ends) {
+      dxs.push_back(gx1 - t.box.x0);
+      dxs.push_back(gx0 - t.box.x1);
+    }
+    std::sort(dxs.begin(), dxs.end());
+    dxs.erase(std::unique(dxs.begin(), dxs.end()), dxs.end());
+    bool found = false;
+    for (cInt dx : dxs) {
+      if (dx < dxMin || dx > dxMax) continue;
+      // The piece's columns on the sheet's grid; those past the sheet's
+      // last column (of a wider column) hold nothing of it.
+      const cInt c0 = floorDiv(dx + t.box.x0 - r_.x0, kStep),
+                 phase = dx + t.box.x0 - r_.x0 - c0 * kStep;
+      const std::vector<ColumnSpan>& cols = phase == 0 ? t.exact : t.phased[phase / kPhase];
+      if (c0 < 0 || static_cast<std::size_t>(c0) >= columns_) continue;
+      const std::size_t m = std::min(cols.size(), columns_ - static_cast<std::size_t>(c0));
+      Spot at{dx, 0};
+      if (!lowestAt(sheet, cols, static_cast<std::size_t>(c0), m, dx + t.box.x0, dx + t.box.x1,
+                    r_.x0, fy0, fy1, at.dy))
+        continue;
+      if (!found || better(t, at, t, best)) best = at, found = true;
+    }
+    return found;
+  }
+
+  void place(Sheet& sheet, const Turn& t, const Spot& at, double area) {
+    Path g = t.grown;
+    for (IntPoint& q : g) q.X += at.dx, q.Y += at.dy;
+    const std::vector<ColumnSpan> cols = columnProfile(g, r_.x0, kStep);
+    const Box gb = boxOf(g);
+    for (std::size_t j = 0; j < cols.size() && j < columns_; ++j) {
+      if (cols[j].lo > cols[j].hi) continue;
+      const cInt cx0 = r_.x0 + cInt(j) * kStep;
+      const Held h{cols[j].lo, cols[j].hi, std::max(gb.x0, cx0), std::min(gb.x1, cx0 + kStep)};
+      auto& c = sheet.columns[j];
+      c.insert(std::upper_bound(c.begin(), c.end(), h,
+                                [](const Held& a, const Held& b) { return a.lo < b.lo; }),
+               h);
+    }
+    sheet.ends.emplace_back(gb.x0, gb.x1);
+    sheet.freeArea -= area;
+    sheet.usedArea += area;
+  }
+
+  const NestRequest& r_;
+  const std::vector<Shape>& shapes_;
+  NestRule rule_;
+  std::size_t columns_ = 1;
+  std::vector<Sheet> sheets_;
+};
+
+std::vector<Shape> prepare(const NestRequest& r) {
+  const std::vector<int> quarters =
+      r.rotate90 ? std::vector<int>{0, 2, 1, 3} : std::vector<int>{0, 2};
+  std::vector<Shape> out(r.shapes.size());
+  for (std::size_t i = 0; i < r.shapes.size(); ++i) {
+    if (r.shapes[i].size() < 3) continue;
+    out[i].area = std::abs(Area(r.shapes[i]));
+    const Path grown = grownBy(r.shapes[i], r.gap);
+    for (int q : quarters) {
+      Turn t;
+      t.quarter = q;
+      const Path p = turned(r.shapes[i], q);
+      t.box = boxOf(p);
+      t.exact = columnProfile(p, t.box.x0, kStep);
+      for (cInt at = 0; at < kStep; at += kPhase)
+        t.phased.push_back(columnProfile(p, t.box.x0 - at - kPhase, kStep, kPhase));
+      t.grown = turned(grown, q);
+      out[i].turns.push_back(std::move(t));
     }
   }
-  return false;
+  return out;
 }
 
 }  // namespace
 
-std::vector<NestPlace> nestShapes(const NestRequest& r) {
-  const std::size_t n = r.shapes.size();
-  std::vector<NestPlace> out(n);
-  std::vector<double> area(n);
-  for (std::size_t i = 0; i < n; ++i) area[i] = std::abs(Area(r.shapes[i]));
-  std::vector<std::size_t> order(n);
-  std::iota(order.begin(), order.end(), 0);
-  std::stable_sort(order.begin(), order.end(),
-                   [&](std::size_t a, std::size_t b) { return area[a] > area[b]; });
-  const std::vector<int> turns = r.rotate90 ? std::vector<int>{0, 2, 1, 3} : std::vector<int>{0, 2};
-  const double sheetArea = double(r.x1 - r.x0) * double(r.y1 - r.y0);
-  std::vector<Sheet> sheets;
-  for (std::size_t i : order) {
-    if (r.shapes[i].size() < 3) continue;
-    const Path grownShape = grownBy(r.shapes[i], r.gap);
-    bool placed = false;
-    // Only the last few sheets stay open: earlier ones are full enough, and
-    // trying them all would cost a sum per piece on every sheet.
-    const std::size_t firstOpen = sheets.size() > kOpenSheets ? sheets.size() - kOpenSheets : 0;
-    for (std::size_t s = firstOpen; s <= sheets.size() && !placed; ++s) {
-      if (s == sheets.size()) sheets.push_back({{}, sheetArea});
-      if (sheets[s].freeArea < area[i]) continue;
-      IntPoint best;
-      int bestTurn = -1;
-      for (int t : turns) {
-        IntPoint at;
-        if (!bottomLeft(turned(r.shapes[i], t), sheets[s], r, at)) continue;
-        if (bestTurn < 0 || at.X < best.X || (at.X == best.X && at.Y < best.Y))
-          best = at, bestTurn = t;
-      }
-      if (bestTurn < 0) {
-        if (sheets[s].pieces.empty()) {
-          sheets.pop_back();  // fits no sheet at all
-          break;
-        }
-        continue;
-      }
-      Placed p;
-      p.grownOutline = turned(grownShape, bestTurn);
-      for (IntPoint& q : p.grownOutline) q.X += best.X, q.Y += best.Y;
-      p.box = boxOf(p.grownOutline);
-      sheets[s].pieces.push_back(std::move(p));
-      sheets[s].freeArea -= area[i];
-      out[i] = {static_cast<int>(s), bestTurn * 1.5707963267948966, best.X, best.Y};
-      placed = true;
-    }
-  }
-  return out;
+NestResult nestBest(const NestRequest& r, int threads) {
+  const std::vector<Shape> shapes = prepare(r);
+  const std::vector<std::vector<std::size_t>> orders = nestOrders(r.shapes);
+  const NestRule rules[] = {NestRule::lowest, NestRule::lowestTop, NestRule::leftmost};
+  const std::size_t tasks = orders.size() * std::size(rules);
+  std::vector<NestResult> results(tasks);
+  std::atomic<std::size_t> next{0};
+  auto work = [&] {
+    for (std::size_t t; (t = next++) < tasks;)
+      results[t] = Pass(r, shapes, rules[t % std::size(rules)]).run(orders[t / std::size(rules)]);
+  };
+  std::vector<std::thread> pool;
+  for (int i = 1; i < threads; ++i) pool.emplace_back(work);
+  work();
+  for (std::thread& t : pool) t.join();
+  std::size_t best = 0;
+  for (std::size_t t = 1; t < tasks; ++t)
+    if (results[t].betterThan(results[best])) best = t;
+  return tasks ? std::move(results[best]) : NestResult{};
 }
 
 }  // namespace tolmar::sheets

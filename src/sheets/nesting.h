@@ -1,14 +1,15 @@
-// Pieces laid on as few sheets as a bottom-left placement finds.  Each
-// piece in turn, largest first, goes on the first of the last three
-// sheets where it fits, at the free position furthest towards the sheet's
-// start (least X, then least Y) over the turns allowed; a new sheet is
-// started when none takes it.  The X tried are the margin and just past
-// the right end of every piece already there; at each the piece drops to
-// the lowest Y that no piece blocks, the blocked shifts found from the
-// cross-sections of both outlines at every corner (exact for outlines that
-// a line across the grain cuts once, as plates, decks and end plates are;
-// on the safe side for any other).  Pieces already placed count grown by
-// the kerf.
+// Pieces laid on as few sheets as a greedy placement finds, tried in
+// several orders (nest_orders.h); the layout with the fewest sheets wins,
+// then the one that leaves the most of its last sheet free.
+//
+// One pass takes the pieces in its order; each goes on the first sheet
+// (earlier sheets' holes first) where it fits, at the lowest free place
+// over the turns allowed and a few positions along the sheet: against its
+// start or its end, or just past either end of a piece already there.  A
+// new sheet is started when none takes it.  The sheets are seen as columns
+// across the grain (column_profile.h), each piece as the span it covers
+// in every column, pieces already placed grown by the kerf: the lowest
+// place is exact up to the width of a column's slope, never too close.
 #pragma once
 
 #include <polyclipping/clipper.hpp>
@@ -30,6 +31,19 @@ struct NestPlace {
   ClipperLib::cInt dx = 0, dy = 0;
 };
 
-std::vector<NestPlace> nestShapes(const NestRequest& r);
+struct NestResult {
+  std::vector<NestPlace> places;  // by shape
+  int sheets = 0;
+  double lastSheetArea = 0;  // of the pieces on the last sheet, units squared
+  // Better: fewer sheets, then less on the last sheet.
+  bool betterThan(const NestResult& o) const {
+    return sheets != o.sheets ? sheets < o.sheets : lastSheetArea < o.lastSheetArea;
+  }
+};
+
+// The best pass of every order with every way of picking a place among
+// those a piece fits (the lowest start, the lowest top, the least X), run
+// on `threads` threads (at least one): the same result whatever the count.
+NestResult nestBest(const NestRequest& r, int threads = 1);
 
 }  // namespace tolmar::sheets

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <future>
 #include <map>
+#include <thread>
 
 #include "sheets/clipper_geometry.h"
 #include "sheets/hull_parts.h"
@@ -45,44 +45,60 @@ std::string tooWide(const SheetPlan& plan, double U, double W, int langue) {
   return {};
 }
 
-void nestPlan(SheetPlan& plan) {
-  const SheetOptions& o = plan.options;
-  std::map<double, std::vector<int>> byThickness;
+const auto units = [](double v) {
+  return static_cast<ClipperLib::cInt>(std::llround(v * kUnitsPerMm));
+};
+
+// The pieces of `plan` of each thickness, in the plan's order.
+std::map<double, std::vector<int>> byThickness(const SheetPlan& plan) {
+  std::map<double, std::vector<int>> out;
   for (int i = 0; i < static_cast<int>(plan.pieces.size()); ++i)
-    byThickness[plan.parts[plan.pieces[i].part].thicknessMm].push_back(i);
-  const auto u = [](double v) {
-    return static_cast<ClipperLib::cInt>(std::llround(v * kUnitsPerMm));
-  };
-  for (const auto& [thickness, ids] : byThickness) {
-    NestRequest r;
-    for (int i : ids) r.shapes.push_back(toPath(plan.pieces[i].outline));
-    r.x0 = r.y0 = u(o.marginMm);
-    r.x1 = u(o.lengthMm - o.marginMm);
-    r.y1 = u(o.widthMm - o.marginMm);
-    r.gap = u(o.kerfMm);
-    r.rotate90 = o.rotate90;
-    const std::vector<NestPlace> placed = nestShapes(r);
-    const std::size_t first = plan.sheets.size();
-    for (std::size_t k = 0; k < ids.size(); ++k) {
-      const NestPlace& np = placed[k];
-      if (np.bin < 0) continue;  // the check reports it
-      while (plan.sheets.size() <= first + np.bin)
-        plan.sheets.push_back({o.lengthMm, o.widthMm, thickness, {}});
-      PlacedPiece pp;
-      pp.piece = ids[k];
-      pp.rotation = np.rotation;
-      pp.dx = np.dx / kUnitsPerMm;
-      pp.dy = np.dy / kUnitsPerMm;
-      const Piece& piece = plan.pieces[ids[k]];
-      for (const MmPoint& q : piece.outline) pp.outline.push_back(placePoint(pp, q));
-      for (const MmPolyline& m : piece.marks) {
-        MmPolyline pm;
-        for (const MmPoint& q : m) pm.push_back(placePoint(pp, q));
-        pp.marks.push_back(std::move(pm));
-      }
-      plan.sheets[first + np.bin].pieces.push_back(std::move(pp));
+    out[plan.parts[plan.pieces[i].part].thicknessMm].push_back(i);
+  return out;
+}
+
+NestRequest request(const SheetPlan& plan, const std::vector<int>& ids) {
+  const SheetOptions& o = plan.options;
+  NestRequest r;
+  for (int i : ids) r.shapes.push_back(toPath(plan.pieces[i].outline));
+  r.x0 = r.y0 = units(o.marginMm);
+  r.x1 = units(o.lengthMm - o.marginMm);
+  r.y1 = units(o.widthMm - o.marginMm);
+  r.gap = units(o.kerfMm);
+  r.rotate90 = o.rotate90;
+  return r;
+}
+
+// The pieces `ids`, all of `thickness`, on new sheets of `plan` as `placed`
+// has them.
+void addSheets(SheetPlan& plan, double thickness, const std::vector<int>& ids,
+               const std::vector<NestPlace>& placed) {
+  const SheetOptions& o = plan.options;
+  const std::size_t first = plan.sheets.size();
+  for (std::size_t k = 0; k < ids.size(); ++k) {
+    const NestPlace& np = placed[k];
+    if (np.bin < 0) continue;  // the check reports it
+    while (plan.sheets.size() <= first + np.bin)
+      plan.sheets.push_back({o.lengthMm, o.widthMm, thickness, {}});
+    PlacedPiece pp;
+    pp.piece = ids[k];
+    pp.rotation = np.rotation;
+    pp.dx = np.dx / kUnitsPerMm;
+    pp.dy = np.dy / kUnitsPerMm;
+    const Piece& piece = plan.pieces[ids[k]];
+    for (const MmPoint& q : piece.outline) pp.outline.push_back(placePoint(pp, q));
+    for (const MmPolyline& m : piece.marks) {
+      MmPolyline pm;
+      for (const MmPoint& q : m) pm.push_back(placePoint(pp, q));
+      pp.marks.push_back(std::move(pm));
     }
+    plan.sheets[first + np.bin].pieces.push_back(std::move(pp));
   }
+}
+
+int threadCount() {
+  const unsigned n = std::thread::hardware_concurrency();
+  return static_cast<int>(std::clamp(n, 1u, 8u));
 }
 
 }  // namespace
@@ -116,17 +132,21 @@ std::string checkOptions(const SheetOptions& o, int langue) {
 }
 
 SheetPlan planParts(std::vector<SheetPart> parts, const SheetOptions& o, int langue) {
-  SheetPlan best;
-  best.options = o;
-  best.error = checkOptions(o, langue);
-  if (!best.error.empty()) return best;
+  SheetPlan failed;
+  failed.options = o;
+  failed.error = checkOptions(o, langue);
+  if (!failed.error.empty()) return failed;
   const double U = o.lengthMm - 2 * o.marginMm, W = o.widthMm - 2 * o.marginMm;
   bool needsJoint = false;
   for (const SheetPart& p : parts) needsJoint |= boundingBox(p.outline).width() > U;
-  const JointStrategy all[] = {JointStrategy::even, JointStrategy::fromAft,
-                               JointStrategy::fromForward};
-  // Each way of placing the joints is planned on a thread of its own.
-  auto attempt = [&](JointStrategy st) {
+  // Each way of placing the joints cuts the parts; the parts of one
+  // thickness share their sheets with no other, so each thickness keeps
+  // the way that needs the fewest sheets for it.
+  std::vector<JointStrategy> ways = {JointStrategy::even};
+  if (needsJoint) ways = {JointStrategy::even, JointStrategy::fromAft, JointStrategy::fromForward};
+  std::vector<SheetPlan> cuts;
+  std::vector<JointStrategy> cutWays;
+  for (JointStrategy st : ways) {
     SheetPlan plan;
     plan.options = o;
     plan.parts = parts;
@@ -134,36 +154,45 @@ SheetPlan planParts(std::vector<SheetPart> parts, const SheetOptions& o, int lan
     CutResult cut = cutParts(parts, o, U - 0.1, st, langue);
     if (!cut.error.empty()) {
       plan.error = cut.error;
-      return plan;
+    } else {
+      for (SheetPart& s : cut.straps) plan.parts.push_back(std::move(s));
+      plan.pieces = std::move(cut.pieces);
+      plan.joints = std::move(cut.joints);
+      plan.error = tooWide(plan, U, W, langue);
     }
-    for (SheetPart& s : cut.straps) plan.parts.push_back(std::move(s));
-    plan.pieces = std::move(cut.pieces);
-    plan.joints = std::move(cut.joints);
-    plan.error = tooWide(plan, U, W, langue);
-    if (plan.error.empty()) nestPlan(plan);
-    return plan;
-  };
-  std::vector<std::future<SheetPlan>> tries;
-  for (JointStrategy st : all)
-    if (needsJoint || st == JointStrategy::even)
-      tries.push_back(std::async(std::launch::async, attempt, st));
-  bool have = false;
-  for (auto& t : tries) {
-    SheetPlan plan = t.get();
     if (!plan.error.empty()) {
-      if (!have && best.error.empty()) best = std::move(plan);
+      if (failed.error.empty()) failed = std::move(plan);
       continue;
     }
-    if (!have || plan.sheets.size() < best.sheets.size()) {
-      best = std::move(plan);
-      have = true;
+    cuts.push_back(std::move(plan));
+    cutWays.push_back(st);
+  }
+  if (cuts.empty()) return failed;
+  const int threads = threadCount();
+  std::map<double, std::pair<std::size_t, NestResult>> best;  // by thickness: the cut, its nest
+  for (std::size_t c = 0; c < cuts.size(); ++c)
+    for (const auto& [thickness, ids] : byThickness(cuts[c])) {
+      NestResult r = nestBest(request(cuts[c], ids), threads);
+      auto it = best.find(thickness);
+      if (it == best.end() || r.betterThan(it->second.second)) best[thickness] = {c, std::move(r)};
     }
-  }
-  if (have) {
-    const auto bad = checkLayout(best);
-    if (!bad.empty()) best.error = "The layout failed its check: " + bad.front();
-  }
-  return best;
+  std::vector<JointStrategy> perPart(parts.size());
+  for (std::size_t i = 0; i < parts.size(); ++i)
+    perPart[i] = cutWays[best.at(parts[i].thicknessMm).first];
+  SheetPlan plan;
+  plan.options = o;
+  plan.parts = parts;
+  CutResult cut = cutParts(parts, o, U - 0.1, perPart, langue);
+  for (SheetPart& s : cut.straps) plan.parts.push_back(std::move(s));
+  plan.pieces = std::move(cut.pieces);
+  plan.joints = std::move(cut.joints);
+  // A thickness's pieces come in the same order as in the cut it was
+  // nested from: the parts' order, then their straps'.
+  for (const auto& [thickness, ids] : byThickness(plan))
+    addSheets(plan, thickness, ids, best.at(thickness).second.places);
+  const auto bad = checkLayout(plan);
+  if (!bad.empty()) plan.error = "The layout failed its check: " + bad.front();
+  return plan;
 }
 
 SheetPlan planSheets(const HullStore& h, const SheetOptions& o) {

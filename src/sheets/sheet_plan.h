@@ -1,7 +1,7 @@
 // From a hull and the builder's choices to pieces on sheets: the parts,
-// their joints (tried three ways when the user has not placed them: the
-// way that needs the fewest sheets wins), the nesting per thickness, and
-// the check of the result.
+// their joints (tried three ways when the user has not placed them: for
+// each thickness, the way that needs the fewest sheets wins), the nesting
+// per thickness, and the check of the result.
 #pragma once
 
 #include "hull/hull_store.h"
