@@ -34,8 +34,12 @@ demo: build
 	rm -rf demo && mkdir -p demo
 	scripts/demo $(BUILD)/cli/tolmar-cli demo
 
+# The 3-D view's frame needs OpenGL: without a display the benchmarks run
+# under xvfb-run when it is installed (else that one reports no context).
 bench: build
-	$(BUILD)/bench/tolmar-bench
+	@if [ -z "$$DISPLAY" ] && command -v xvfb-run >/dev/null; then \
+	  xvfb-run -a -s "-screen 0 1920x1200x24" $(BUILD)/bench/tolmar-bench; \
+	else $(BUILD)/bench/tolmar-bench; fi
 
 fuzz:
 	scripts/fuzz-smoke

@@ -17,19 +17,7 @@ void BM_CheckFoldsSound21(benchmark::State& state) {
 BENCHMARK(BM_CheckFoldsSound21)->Unit(benchmark::kMicrosecond);
 
 void BM_CheckFoldsFolded21(benchmark::State& state) {
-  auto h = std::make_unique<tolmar::HullStore>();
-  tolmar::initDefaultHull(*h);
-  tolmar::fixture::validateBottom(*h);
-  tolmar::Bouchain3 s;
-  s.activate(*h);
-  s.Text0.text = "20";
-  s.Text1(0).text = "20";
-  s.Text2(0).text = "115";
-  s.Text2(1).text = "1.2";
-  s.Text2(2).text = "0.95";
-  s.Text2(3).text = "1.0";
-  s.Text4.text = "0.6";
-  tolmar::fixture::require(s.validerAuto(*h), "automatic planking");
+  const auto h = tolmar::fixture::foldedHull();
   for (auto _ : state) benchmark::DoNotOptimize(tolmar::checkFolds(*h));
   state.counters["stretches"] = static_cast<double>(tolmar::checkFolds(*h).stretches.size());
 }

@@ -14,20 +14,12 @@
 #include <cstdlib>
 
 #include "../tests/development/hull_fixture.h"
+#include "bench_app.h"
 #include "development/developed_plate.h"
 #include "printing/pattern_pages.h"
 #include "qtdraw/paged_surface.h"
 
 namespace {
-
-QGuiApplication& app() {
-  static int argc = 1;
-  static char name[] = "tolmar-bench";
-  static char* argv[] = {name, nullptr};
-  if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  static QGuiApplication a(argc, argv);
-  return a;
-}
 
 // One document; its pages and bytes.
 std::pair<int, qsizetype> patternsPdf(const tolmar::HullStore& h) {
@@ -52,7 +44,7 @@ std::pair<int, qsizetype> patternsPdf(const tolmar::HullStore& h) {
 }
 
 void BM_FullSizePatterns21LinesA4(benchmark::State& state) {
-  app();
+  tolmar::bench::app();
   auto h = tolmar::fixture::manyLineHull();
   std::pair<int, qsizetype> r{};
   for (auto _ : state) {

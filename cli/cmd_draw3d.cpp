@@ -21,6 +21,7 @@
 #include "io/safe_write.h"
 #include "pipeline.h"
 #include "qtdraw/hull_scene.h"
+#include "qtdraw/scene_renderer.h"
 
 namespace tolmar::cli {
 namespace {
@@ -132,10 +133,18 @@ int run(const Args& args) {
     return 1;
   }
   gui::HullScene scene;
-  scene.setHull(*h, heel);
+  scene.setHull(*h);
+  scene.setHeel(heel);
   gui::SceneCamera cam = gui::standardCamera(view);
   scene.fit(cam, double(w) / hgt);
-  scene.paint(cam, w, hgt);
+  gui::SceneRenderer renderer;
+  if (!renderer.initialize()) {
+    std::fprintf(stderr, "tolmar-cli draw3d: the OpenGL context cannot draw the hull: %s\n",
+                 qPrintable(renderer.log()));
+    return 1;
+  }
+  renderer.paint(scene, cam, w, hgt);
+  renderer.release();
   const QImage img = fbo.toImage();
   fbo.release();
   ctx.doneCurrent();
@@ -160,7 +169,8 @@ Register reg({"draw3d", kUsage,
               "  Opens a hull file and passes its screens as `dump` does (--auto and --set as\n"
               "  there), then renders the hull as the 3-D view shows it, shaded plates and\n"
               "  lines, from iso (the default), front, side, top or bottom, heeled by --heel\n"
-              "  degrees, on W x H pixels (1600x1000 unless given), into a PNG.  Needs OpenGL:\n"
+              "  degrees (positive with the starboard side down, as the stability window\n"
+              "  counts it), on W x H pixels (1600x1000 unless given), into a PNG.  Needs OpenGL:\n"
               "  a display, or xvfb-run where there is none.  Status 1: a file cannot be read\n"
               "  or written, or no OpenGL; 2: a wrong command line, a hull the screens refuse\n"
               "  or a folded hull.",

@@ -1,60 +1,66 @@
-// The closed hull as a lit 3-D scene drawn with OpenGL: each plate shaded
-// in the colour of its line on the board, the keel, chines and sheer as
-// lines over it.  Used by the 3-D view window and by tolmar-cli draw3d;
-// paint() needs a current OpenGL context (compatibility profile).
+// The closed hull as a 3-D scene, in the hull's axes: each plate shaded in
+// the colour of its line on the board, the keel, chines and sheer as lines
+// over it, and the water plane when one is given.  Built once per hull;
+// the heel only turns the model matrix.  SceneRenderer draws it.
 #pragma once
 
 #include <QMatrix4x4>
 #include <QVector3D>
+#include <array>
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "hull/hull_store.h"
+#include "qtdraw/scene_camera.h"
 
 namespace tolmar::gui {
 
-// An orbiting camera: it looks at `target` from `distance` metres, from
-// the direction given by yaw (degrees about the vertical, 0 from ahead,
-// 90 from starboard) and pitch (degrees above the horizon).
-struct SceneCamera {
-  double yaw = 56, pitch = 25;
-  double distance = 10;
-  QVector3D target;
-  double fovY = 30;  // degrees
-
-  QVector3D eye() const;
-  QMatrix4x4 view() const;
-  QMatrix4x4 projection(double aspect) const;
+// One vertex as the buffers hold it: position, normal and colour (RGBA).
+struct SceneVertex {
+  float x, y, z;
+  float nx, ny, nz;
+  float r, g, b, a;
 };
 
-// The five views of the VRML world and the two from straight above and
-// below; `fit` then frames the hull.
-enum class StandardView { side, face, top, quarter, isometric, plan, bottom };
-SceneCamera standardCamera(StandardView v);
+// The water as a quadrilateral in the hull's axes.
+using WaterQuad = std::array<QVector3D, 4>;
 
 class HullScene {
  public:
-  // The welded hull of `h` and its lines; an empty scene when the lines are
-  // not drawn.  Heel turns the hull about the X axis (degrees, to port positive).
-  void setHull(const HullStore& h, double heelDeg = 0);
-  bool empty() const { return vertices_.empty(); }
+  // The welded hull of `h` and its lines; an empty scene when the lines
+  // are not drawn.
+  void setHull(const HullStore& h);
+  bool empty() const { return triangles_.empty(); }
 
-  // Distance and target that show the whole hull in a view of that aspect.
+  // Degrees, positive with the starboard side (Y > 0) down, as the
+  // stability window counts it: the hull turns about the X axis.
+  void setHeel(double heelDeg);
+  double heel() const { return heel_; }
+  const QMatrix4x4& model() const { return model_; }
+
+  // The water plane (hull axes), or none.
+  void setWater(const std::optional<WaterQuad>& water);
+  const std::optional<WaterQuad>& water() const { return water_; }
+
+  // Target and distance that frame the heeled hull tightly from the
+  // camera's direction, in a picture of that aspect.
   void fit(SceneCamera& c, double aspect) const;
-  QVector3D centre() const { return centre_; }
-  float radius() const { return radius_; }
 
-  // Clears and draws into the current context's viewport of w x h pixels.
-  void paint(const SceneCamera& c, int w, int h) const;
+  // Three vertices a triangle; the lines as pairs of ends.
+  const std::vector<SceneVertex>& triangles() const { return triangles_; }
+  const std::vector<SceneVertex>& lines() const { return lines_; }
+  // Grows whenever the hull or the water changes: the renderer uploads
+  // the buffers again then, and only then.
+  std::uint64_t revision() const { return revision_; }
 
  private:
-  struct Strip {
-    std::vector<QVector3D> points;
-    QVector3D colour;
-  };
-  std::vector<QVector3D> vertices_, normals_, colours_;  // three per triangle
-  std::vector<Strip> lines_;
-  QVector3D centre_;
-  float radius_ = 1;
+  std::vector<SceneVertex> triangles_, lines_;
+  std::vector<QVector3D> corners_;  // the welded vertices, for the framing
+  std::optional<WaterQuad> water_;
+  double heel_ = 0;
+  QMatrix4x4 model_;
+  std::uint64_t revision_ = 0;
 };
 
 }  // namespace tolmar::gui

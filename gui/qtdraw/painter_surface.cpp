@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "printing/flat_clip.h"
+
 namespace tolmar::qtdraw {
 
 namespace {
@@ -33,28 +35,10 @@ bool finite(QPointF p) { return std::isfinite(p.x()) && std::isfinite(p.y()); }
 QColor qtColour(Colour c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
 
 bool clipSegment(QPointF& a, QPointF& b, const QRectF& r) {
-  if (!finite(a) || !finite(b)) return false;
-  double t0 = 0, t1 = 1;
-  const double dx = b.x() - a.x(), dy = b.y() - a.y();
-  const double p[4] = {-dx, dx, -dy, dy};
-  const double q[4] = {a.x() - r.left(), r.right() - a.x(), a.y() - r.top(), r.bottom() - a.y()};
-  for (int i = 0; i < 4; ++i) {
-    if (p[i] == 0) {
-      if (q[i] < 0) return false;
-      continue;
-    }
-    const double t = q[i] / p[i];
-    if (p[i] < 0) {
-      if (t > t1) return false;
-      if (t > t0) t0 = t;
-    } else {
-      if (t < t0) return false;
-      if (t < t1) t1 = t;
-    }
-  }
-  const QPointF a0 = a;
-  if (t1 < 1) b = QPointF(a0.x() + t1 * dx, a0.y() + t1 * dy);
-  if (t0 > 0) a = QPointF(a0.x() + t0 * dx, a0.y() + t0 * dy);
+  double ax = a.x(), ay = a.y(), bx = b.x(), by = b.y();
+  if (!clipToBox(ax, ay, bx, by, ClipBox{r.left(), r.top(), r.right(), r.bottom()})) return false;
+  a = QPointF(ax, ay);
+  b = QPointF(bx, by);
   return true;
 }
 

@@ -7,6 +7,7 @@
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QPushButton>
+#include <QSurfaceFormat>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <algorithm>
@@ -17,79 +18,113 @@
 
 namespace tolmar::gui {
 
-HullGlWidget::HullGlWidget(QWidget* parent) : QOpenGLWidget(parent) {
+HullGlView::HullGlView() : QOpenGLWindow(QOpenGLWindow::NoPartialUpdate) {
   setObjectName("hullGl");
-  setMinimumSize(320, 200);
+  QSurfaceFormat f = format();
+  f.setDepthBufferSize(24);
+  setFormat(f);
+  cam_ = standardCamera(StandardView::isometric);
 }
 
-void HullGlWidget::setHull(const HullStore& h) {
+HullGlView::~HullGlView() { releaseGl(); }
+
+void HullGlView::releaseGl() {
+  if (!context()) return;
+  makeCurrent();
+  renderer_.release();
+  doneCurrent();
+}
+
+void HullGlView::initializeGL() {
+  if (!renderer_.initialize()) qWarning("3-D view: %s", qPrintable(renderer_.log()));
+  connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &HullGlView::releaseGl,
+          Qt::UniqueConnection);
+}
+
+double HullGlView::aspect() const { return height() > 0 ? double(width()) / height() : 1.6; }
+
+void HullGlView::setHull(const HullStore& h) {
   scene_.setHull(h);
-  if (!fitted_ && !scene_.empty()) {
-    fit();
-    fitted_ = true;
-  }
+  if (framed_) scene_.fit(cam_, aspect());
   update();
 }
 
-void HullGlWidget::showView(StandardView v) {
+void HullGlView::showView(StandardView v) {
   cam_ = standardCamera(v);
   fit();
 }
 
-void HullGlWidget::fit() {
-  scene_.fit(cam_, height() > 0 ? double(width()) / height() : 1.6);
+void HullGlView::fit() {
+  framed_ = true;
+  scene_.fit(cam_, aspect());
   update();
 }
 
-void HullGlWidget::orbit(double dx, double dy) {
+void HullGlView::resizeGL(int, int) {
+  if (framed_) scene_.fit(cam_, aspect());
+}
+
+void HullGlView::orbit(double dx, double dy) {
+  framed_ = false;
   cam_.yaw -= dx * 0.4;
   cam_.pitch = std::clamp(cam_.pitch + dy * 0.4, -90.0, 90.0);
   update();
 }
 
-void HullGlWidget::paintGL() {
-  const qreal r = devicePixelRatioF();
-  scene_.paint(cam_, static_cast<int>(width() * r), static_cast<int>(height() * r));
+void HullGlView::paintGL() {
+  const qreal r = devicePixelRatio();
+  renderer_.paint(scene_, cam_, static_cast<int>(width() * r), static_cast<int>(height() * r));
 }
 
-void HullGlWidget::mousePressEvent(QMouseEvent* e) { last_ = e->position(); }
+QImage HullGlView::picture() {
+  if (!isValid()) return {};
+  makeCurrent();
+  paintGL();
+  return grabFramebuffer();
+}
 
-void HullGlWidget::mouseMoveEvent(QMouseEvent* e) {
+void HullGlView::mousePressEvent(QMouseEvent* e) { last_ = e->position(); }
+
+void HullGlView::mouseMoveEvent(QMouseEvent* e) {
   const QPointF d = e->position() - last_;
   last_ = e->position();
   if (e->buttons() & Qt::LeftButton) {
     orbit(d.x(), d.y());
   } else if (e->buttons() & Qt::RightButton) {
     // The target moves with the pointer, in the plane facing the camera.
-    const QMatrix4x4 v = cam_.view();
-    const QVector3D right(v(0, 0), v(0, 1), v(0, 2)), up(v(1, 0), v(1, 1), v(1, 2));
+    framed_ = false;
     const double perPixel =
         2 * cam_.distance * std::tan(cam_.fovY * M_PI / 360) / std::max(1, height());
-    cam_.target -= (right * float(d.x()) - up * float(d.y())) * float(perPixel);
+    cam_.target -= (cam_.right() * float(d.x()) - cam_.up() * float(d.y())) * float(perPixel);
     update();
   }
 }
 
-void HullGlWidget::wheelEvent(QWheelEvent* e) {
+void HullGlView::wheelEvent(QWheelEvent* e) {
   const double steps = e->angleDelta().y() / 120.0;
   if (steps == 0) return;
+  framed_ = false;
   const double k = std::pow(0.85, steps);
   // The point under the pointer stays there: the target moves toward it by
   // the share of the distance the zoom takes off.
-  const QMatrix4x4 v = cam_.view();
-  const QVector3D right(v(0, 0), v(0, 1), v(0, 2)), up(v(1, 0), v(1, 1), v(1, 2));
   const double perPixel =
       2 * cam_.distance * std::tan(cam_.fovY * M_PI / 360) / std::max(1, height());
   const QPointF c = e->position() - QPointF(width() / 2.0, height() / 2.0);
   const QVector3D under =
-      cam_.target + (right * float(c.x()) - up * float(c.y())) * float(perPixel);
+      cam_.target + (cam_.right() * float(c.x()) - cam_.up() * float(c.y())) * float(perPixel);
   cam_.target += (under - cam_.target) * float(1 - k);
   cam_.distance = std::clamp(cam_.distance * k, 1e-3, 1e4);
   update();
 }
 
 HullViewWindow::HullViewWindow(QWidget* parent, const HullStore& h)
-    : QWidget(parent, Qt::Window), h_(h), gl_(new HullGlWidget(this)) {
+    : QWidget(parent, Qt::Window),
+      h_(h),
+      gl_(new HullGlView),
+      container_(QWidget::createWindowContainer(gl_, this)) {
+  container_->setObjectName("hullPicture");
+  container_->setMinimumSize(320, 200);
+  container_->setFocusPolicy(Qt::StrongFocus);
   setObjectName("hullView");
   const bool fr = h.langue == 0;
   setWindowTitle(fr ? "Vue 3D" : "3-D view");
@@ -116,11 +151,11 @@ HullViewWindow::HullViewWindow(QWidget* parent, const HullStore& h)
   auto* fit = new QPushButton(fr ? "Cadrer" : "Fit", this);
   fit->setObjectName("viewFit");
   fit->setShortcut(QKeySequence(Qt::Key_F));
-  connect(fit, &QPushButton::clicked, gl_, &HullGlWidget::fit);
+  connect(fit, &QPushButton::clicked, gl_, &HullGlView::fit);
   buttons->addWidget(fit);
   buttons->addStretch();
   auto* box = new QVBoxLayout(this);
-  box->addWidget(gl_, 1);
+  box->addWidget(container_, 1);
   box->addLayout(buttons);
   resize(900, 600);
   follow();

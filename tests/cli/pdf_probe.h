@@ -14,17 +14,18 @@
 namespace tolmar::testing {
 
 inline constexpr double kMmPerPt = 25.4 / 72;
-inline const char* const kPdfMeasure = "/work/shared/tools/pdf_measure.py";
+// The shared checkers' folder, found beside the project by the build.
+inline const char* const kPdfMeasure = TOLMAR_SHARED_TOOLS "/pdf_measure.py";
 
 struct Shell {
   int status = -1;
   std::string out;
 };
 
-// A shell command's status and stdout; stderr is dropped.
-inline Shell shell(const std::string& cmd) {
+// A shell command's status and stdout; stderr is dropped, or joins stdout.
+inline Shell shell(const std::string& cmd, bool withStderr = false) {
   Shell r;
-  FILE* p = popen((cmd + " 2>/dev/null").c_str(), "r");
+  FILE* p = popen((cmd + (withStderr ? " 2>&1" : " 2>/dev/null")).c_str(), "r");
   if (!p) return r;
   std::array<char, 65536> buf;
   std::size_t n;

@@ -13,6 +13,7 @@
 #include <sstream>
 #include <string>
 
+#include "cli/pdf_probe.h"
 #include "development/hull_fixture.h"
 #include "printing/page_scale.h"
 #include "printing/paper_setup.h"
@@ -21,23 +22,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Shell {
-  int status = -1;
-  std::string out;
-};
+using tolmar::testing::Shell;
 
 // A shell command's status and stdout; stderr joins stdout.
-Shell sh(const std::string& cmd) {
-  Shell r;
-  FILE* p = popen((cmd + " 2>&1").c_str(), "r");
-  if (!p) return r;
-  std::array<char, 65536> buf;
-  std::size_t n;
-  while ((n = std::fread(buf.data(), 1, buf.size(), p)) > 0) r.out.append(buf.data(), n);
-  const int st = pclose(p);
-  r.status = WIFEXITED(st) ? WEXITSTATUS(st) : -1;
-  return r;
-}
+Shell sh(const std::string& cmd) { return tolmar::testing::shell(cmd, true); }
 
 std::string q(const fs::path& p) { return "'" + p.string() + "'"; }
 
@@ -99,8 +87,8 @@ TEST_F(CliPrint, DrawingOnA4) {
 // part of the page inside the 5 mm margins (15 pt, as Qt keeps whole
 // points) and the calibration bars' bands.
 TEST_F(CliPrint, OneMetreOfTheScaleBar) {
-  if (sh("python3 -c 'import xml.etree.ElementTree' && pdftocairo -v").status != 0)
-    GTEST_SKIP() << "python3 or pdftocairo missing";
+  if (!tolmar::testing::popplerReady())
+    GTEST_SKIP() << "poppler, python3 or pdf_measure.py missing";
   struct Paper {
     const char* args;
     double widthPt, heightPt;
@@ -119,7 +107,7 @@ TEST_F(CliPrint, OneMetreOfTheScaleBar) {
     std::ostringstream expect;
     expect.precision(6);
     expect << mm;
-    const Shell m = sh("python3 /work/shared/tools/pdf_measure.py " + q(pdf) +
+    const Shell m = sh("python3 " + std::string(tolmar::testing::kPdfMeasure) + " " + q(pdf) +
                        " --page 1 --expect " + expect.str() + " --tol-mm 0.01");
     EXPECT_EQ(m.status, 0) << "scale " << h->printScaleX << "\n" << m.out;
   }

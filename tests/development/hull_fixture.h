@@ -52,6 +52,25 @@ inline void autoPlanks(HullStore& h, int planks, int first, int last, double zAf
   require(s.validerAuto(h), "automatic planking");
 }
 
+// The default hull's bottom with 20 planks from 20 to 115 degrees and a stem
+// shape of 0.6: the first chine folds under the second.
+inline std::unique_ptr<HullStore> foldedHull() {
+  auto h = std::make_unique<HullStore>();
+  initDefaultHull(*h);
+  validateBottom(*h);
+  Bouchain3 s;
+  s.activate(*h);
+  s.Text0.text = "20";
+  s.Text1(0).text = "20";
+  s.Text2(0).text = "115";
+  s.Text2(1).text = "1.2";
+  s.Text2(2).text = "0.95";
+  s.Text2(3).text = "1.0";
+  s.Text4.text = "0.6";
+  require(s.validerAuto(*h), "automatic planking");
+  return h;
+}
+
 // The default hull, bottom and planks validated, stations built.
 inline std::unique_ptr<HullStore> defaultHull() {
   auto h = std::make_unique<HullStore>();

@@ -26,6 +26,12 @@ bool canMakeGl() {
   return c.create() && c.makeCurrent(&s);
 }
 
+// A press, a move or a release on the picture's window, buttons held.
+void mouse(QWindow* w, QEvent::Type t, QPoint p, Qt::MouseButton b, Qt::MouseButtons held) {
+  QMouseEvent e(t, QPointF(p), w->mapToGlobal(QPointF(p)), b, held, Qt::NoModifier);
+  QGuiApplication::sendEvent(w, &e);
+}
+
 int unlike(const QImage& img, QRgb background) {
   int n = 0;
   for (int y = 0; y < img.height(); ++y)
@@ -60,30 +66,30 @@ class HullViewTest : public QObject {
     gui::HullViewWindow* w = p.board().view3d();
     QVERIFY(w);
     QVERIFY(QTest::qWaitForWindowExposed(w));
-    gui::HullGlWidget& gl = w->view();
-    const QImage first = gl.grabFramebuffer();
+    gui::HullGlView& gl = w->view();
+    const QImage first = gl.picture();
     QVERIFY(!first.isNull());
     // The hull fills a good part of the fitted view.
     const int inked = unlike(first, first.pixel(2, 2));
     QVERIFY2(inked > first.width() * first.height() / 20, qPrintable(QString::number(inked)));
 
     const double yaw = gl.camera().yaw, distance = gl.camera().distance;
-    const QPoint c = gl.rect().center();
-    test::mouse(&gl, QEvent::MouseButtonPress, c, Qt::LeftButton, Qt::LeftButton);
-    test::mouse(&gl, QEvent::MouseMove, c + QPoint(50, 0), Qt::NoButton, Qt::LeftButton);
-    test::mouse(&gl, QEvent::MouseButtonRelease, c + QPoint(50, 0), Qt::LeftButton, Qt::NoButton);
+    const QPoint c(gl.width() / 2, gl.height() / 2);
+    mouse(&gl, QEvent::MouseButtonPress, c, Qt::LeftButton, Qt::LeftButton);
+    mouse(&gl, QEvent::MouseMove, c + QPoint(50, 0), Qt::NoButton, Qt::LeftButton);
+    mouse(&gl, QEvent::MouseButtonRelease, c + QPoint(50, 0), Qt::LeftButton, Qt::NoButton);
     QVERIFY(qAbs(gl.camera().yaw - (yaw - 20)) < 1e-9);
-    QVERIFY(gl.grabFramebuffer() != first);
+    QVERIFY(gl.picture() != first);
 
     QWheelEvent wheel(QPointF(c), gl.mapToGlobal(QPointF(c)), QPoint(), QPoint(0, 120),
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&gl, &wheel);
+    QGuiApplication::sendEvent(&gl, &wheel);
     QVERIFY(gl.camera().distance < distance);
 
     w->findChild<QPushButton*>("viewSide")->click();
     QCOMPARE(gl.camera().yaw, 90.0);
     QCOMPARE(gl.camera().pitch, 0.0);
-    const QImage side = gl.grabFramebuffer();
+    const QImage side = gl.picture();
     // From the side the hull is long and low: wider inked span than tall.
     int left = side.width(), right = -1, top = side.height(), bottom = -1;
     const QRgb bg = side.pixel(2, 2);

@@ -57,8 +57,12 @@ TEST(PatternTiles, TilesCoverThePlateAndNoFewerWould) {
         ASSERT_GT(t.count(), 0);
         EXPECT_GE(t.gridW() + 1e-9, t.posterW);
         EXPECT_GE(t.gridH() + 1e-9, t.posterH);
-        if (t.cols > 1) EXPECT_LT(t.gridW() - t.stepU(), t.posterW);
-        if (t.rows > 1) EXPECT_LT(t.gridH() - t.stepV(), t.posterH);
+        if (t.cols > 1) {
+          EXPECT_LT(t.gridW() - t.stepU(), t.posterW);
+        }
+        if (t.rows > 1) {
+          EXPECT_LT(t.gridH() - t.stepV(), t.posterH);
+        }
       }
   EXPECT_EQ(tilePlate(100, 100, 20, 200, 10).count(), 0) << "a tile no wider than two bands";
   EXPECT_EQ(tilePlate(std::nan(""), 100, 190, 260, 10).count(), 0);

@@ -110,19 +110,7 @@ TEST(HullParts, LapStrakeOutlinesCarryTheLap) {
 TEST(HullParts, RefusesAFoldedHullAndAHullWithoutPlanks) {
   // 20 planks from 20 to 115 degrees with a stem shape of 0.6: the first
   // chine folds under the second.
-  auto h = std::make_unique<HullStore>();
-  initDefaultHull(*h);
-  fixture::validateBottom(*h);
-  Bouchain3 s;
-  s.activate(*h);
-  s.Text0.text = "20";
-  s.Text1(0).text = "20";
-  s.Text2(0).text = "115";
-  s.Text2(1).text = "1.2";
-  s.Text2(2).text = "0.95";
-  s.Text2(3).text = "1.0";
-  s.Text4.text = "0.6";
-  ASSERT_TRUE(s.validerAuto(*h));
+  auto h = fixture::foldedHull();
   buildAllStations(*h);
   h->langue = 1;
   const FoldReport f = checkFolds(*h);

@@ -142,19 +142,7 @@ TEST(HullStability, RefusedWithASentence) {
 
   // A hull whose first plank folds under line 1 is refused with the fold
   // check's own sentence.
-  auto folded = std::make_unique<HullStore>();
-  initDefaultHull(*folded);
-  fixture::validateBottom(*folded);
-  Bouchain3 planks;  // 20 planks from 20 to 115 degrees, with a stem shape
-  planks.activate(*folded);
-  planks.Text0.text = "20";
-  planks.Text1(0).text = "20";
-  planks.Text2(0).text = "115";
-  planks.Text2(1).text = "1.2";
-  planks.Text2(2).text = "0.95";
-  planks.Text2(3).text = "1.0";
-  planks.Text4.text = "0.6";
-  ASSERT_TRUE(planks.validerAuto(*folded));
+  auto folded = fixture::foldedHull();
   const FoldReport report = checkFolds(*folded);
   ASSERT_TRUE(report.folded());
   EXPECT_EQ(runStability(*withMassBudget(*folded), StabilityOptions{}, 1).error, report.message(1));
