@@ -21,7 +21,7 @@
 #include "../tests/hull/hull_fixtures.h"
 #include "bench_app.h"
 #include "qtdraw/scene_renderer.h"
-#include "windows/hull_view_window.h"
+#include "windows/hull_gl_view.h"
 
 namespace {
 

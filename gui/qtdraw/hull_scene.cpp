@@ -74,6 +74,10 @@ void HullScene::setHeel(double heelDeg) {
   if (!std::isfinite(heelDeg)) heelDeg = 0;
   heel_ = heelDeg;
   model_.setToIdentity();
+  // The hull's Y runs to starboard: with X forward and Z up its axes are
+  // left-handed, and drawn as they are the picture would be the mirror
+  // image of the boat.  The scene's Y runs to port.
+  model_.scale(1, -1, 1);
   // Starboard down is a turn the other way about X.
   model_.rotate(float(-heelDeg), 1, 0, 0);
 }

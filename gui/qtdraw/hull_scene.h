@@ -28,6 +28,7 @@ using WaterQuad = std::array<QVector3D, 4>;
 
 class HullScene {
  public:
+  HullScene() { setHeel(0); }
   // The welded hull of `h` and its lines; an empty scene when the lines
   // are not drawn.
   void setHull(const HullStore& h);
@@ -37,6 +38,7 @@ class HullScene {
   // stability window counts it: the hull turns about the X axis.
   void setHeel(double heelDeg);
   double heel() const { return heel_; }
+  // From the hull's axes to the scene's: Y mirrored, then the heel.
   const QMatrix4x4& model() const { return model_; }
 
   // The water plane (hull axes), or none.

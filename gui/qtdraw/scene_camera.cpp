@@ -13,9 +13,10 @@ constexpr double kDeg = 3.14159265358979323846 / 180;
 }  // namespace
 
 QVector3D SceneCamera::back() const {
+  // The scene's Y runs to port (see HullScene::model): starboard is -Y.
   const double y = yaw * kDeg, p = pitch * kDeg;
   return QVector3D(static_cast<float>(std::cos(p) * std::cos(y)),
-                   static_cast<float>(std::cos(p) * std::sin(y)), static_cast<float>(std::sin(p)));
+                   static_cast<float>(-std::cos(p) * std::sin(y)), static_cast<float>(std::sin(p)));
 }
 
 QVector3D SceneCamera::eye() const { return target + float(distance) * back(); }

@@ -8,9 +8,10 @@
 
 namespace tolmar::gui {
 
-// An orbiting camera: it looks at `target` from `distance` metres, from
-// the direction given by yaw (degrees about the vertical, 0 from ahead,
-// 90 from starboard) and pitch (degrees above the horizon).
+// An orbiting camera in the scene's axes (X forward, Y to port, Z up): it
+// looks at `target` from `distance` metres, from the direction given by
+// yaw (degrees about the vertical, 0 from ahead, 90 from starboard) and
+// pitch (degrees above the horizon).
 struct SceneCamera {
   double yaw = 56, pitch = 25;
   double distance = 10;

@@ -126,15 +126,16 @@ void SceneRenderer::paint(const HullScene& scene, const SceneCamera& c, int w, i
   // The plates pushed back a little, so that the lines on them win.
   program_->setUniformValue(lit_, 1.0f);
   // The hull is closed and its triangles turn anticlockwise seen from
-  // outside: the faces turned away are hidden anyway, and not filling them
-  // halves the work of a frame.
+  // outside (clockwise once the model mirrors them): the faces turned away
+  // are hidden anyway, and not filling them halves the work of a frame.
   glEnable(GL_POLYGON_OFFSET_FILL);
   glPolygonOffset(1, 1);
-  glFrontFace(GL_CCW);
+  glFrontFace(scene.model().determinant() < 0 ? GL_CW : GL_CCW);
   glCullFace(GL_BACK);
   glEnable(GL_CULL_FACE);
   draw(triangles_, 0, triangleCount_, GL_TRIANGLES);
   glDisable(GL_CULL_FACE);
+  glFrontFace(GL_CCW);
   glDisable(GL_POLYGON_OFFSET_FILL);
 
   program_->setUniformValue(lit_, 0.0f);

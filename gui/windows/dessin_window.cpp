@@ -18,8 +18,10 @@
 #include "windows/command_steps.h"
 #include "windows/field_widgets.h"
 #include "windows/hull_view_window.h"
+#include "windows/model_export.h"
 #include "windows/plan_widget.h"
 #include "windows/session.h"
+#include "windows/stability_window.h"
 #include "windows/twips.h"
 
 namespace tolmar::gui {
@@ -165,6 +167,14 @@ void DessinWindow::buildAddedEntries() {
       view3dWindow_ = openHullViewWindow(this, s_.store());
       if (!view3dWindow_) return;
       view3dWindow_->setAttribute(Qt::WA_DeleteOnClose);
+      // The heel a crew on one side gives, while the stability window
+      // shows one.
+      view3dWindow_->setStabilityHeel([this]() -> std::optional<double> {
+        const auto* w = qobject_cast<StabilityWindow*>(buildMenu_->window("fmenu_B_Stability"));
+        if (!w || !w->result().ok() || !w->result().crewAsked || !w->result().crew.rests)
+          return std::nullopt;
+        return w->result().crew.heel;
+      });
     }
     view3dWindow_->show();
     view3dWindow_->raise();

@@ -1,174 +1,223 @@
 #include "windows/hull_view_window.h"
 
-#include <QFileDialog>
+#include <QCheckBox>
+#include <QDoubleSpinBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QMessageBox>
-#include <QMouseEvent>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QPushButton>
-#include <QSurfaceFormat>
+#include <QSettings>
 #include <QVBoxLayout>
-#include <QWheelEvent>
-#include <algorithm>
 #include <cmath>
 
-#include "hull/fold_check.h"
-#include "mesh_export/mesh_files.h"
+#include "stability/shown_water.h"
+#include "windows/hull_gl_view.h"
 
 namespace tolmar::gui {
 
-HullGlView::HullGlView() : QOpenGLWindow(QOpenGLWindow::NoPartialUpdate) {
-  setObjectName("hullGl");
-  QSurfaceFormat f = format();
-  f.setDepthBufferSize(24);
-  setFormat(f);
-  cam_ = standardCamera(StandardView::isometric);
+namespace {
+
+struct ViewButton {
+  const char* name;
+  const char* french;
+  const char* english;
+  StandardView v;
+};
+
+constexpr ViewButton kViews[] = {
+    {"viewSide", "Côté", "Side", StandardView::side},
+    {"viewFace", "Face", "Face", StandardView::face},
+    {"viewTop", "Dessus", "Top", StandardView::top},
+    {"viewQuarter", "Trois-quarts", "Quarter", StandardView::quarter},
+    {"viewIsometric", "Isométrique", "Isometric", StandardView::isometric}};
+
+QString text(bool fr, const char* french, const char* english) {
+  return QString::fromUtf8(fr ? french : english);
 }
 
-HullGlView::~HullGlView() { releaseGl(); }
-
-void HullGlView::releaseGl() {
-  if (!context()) return;
-  makeCurrent();
-  renderer_.release();
-  doneCurrent();
-}
-
-void HullGlView::initializeGL() {
-  if (!renderer_.initialize()) qWarning("3-D view: %s", qPrintable(renderer_.log()));
-  connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &HullGlView::releaseGl,
-          Qt::UniqueConnection);
-}
-
-double HullGlView::aspect() const { return height() > 0 ? double(width()) / height() : 1.6; }
-
-void HullGlView::setHull(const HullStore& h) {
-  scene_.setHull(h);
-  if (framed_) scene_.fit(cam_, aspect());
-  update();
-}
-
-void HullGlView::showView(StandardView v) {
-  cam_ = standardCamera(v);
-  fit();
-}
-
-void HullGlView::fit() {
-  framed_ = true;
-  scene_.fit(cam_, aspect());
-  update();
-}
-
-void HullGlView::resizeGL(int, int) {
-  if (framed_) scene_.fit(cam_, aspect());
-}
-
-void HullGlView::orbit(double dx, double dy) {
-  framed_ = false;
-  cam_.yaw -= dx * 0.4;
-  cam_.pitch = std::clamp(cam_.pitch + dy * 0.4, -90.0, 90.0);
-  update();
-}
-
-void HullGlView::paintGL() {
-  const qreal r = devicePixelRatio();
-  renderer_.paint(scene_, cam_, static_cast<int>(width() * r), static_cast<int>(height() * r));
-}
-
-QImage HullGlView::picture() {
-  if (!isValid()) return {};
-  makeCurrent();
-  paintGL();
-  return grabFramebuffer();
-}
-
-void HullGlView::mousePressEvent(QMouseEvent* e) { last_ = e->position(); }
-
-void HullGlView::mouseMoveEvent(QMouseEvent* e) {
-  const QPointF d = e->position() - last_;
-  last_ = e->position();
-  if (e->buttons() & Qt::LeftButton) {
-    orbit(d.x(), d.y());
-  } else if (e->buttons() & Qt::RightButton) {
-    // The target moves with the pointer, in the plane facing the camera.
-    framed_ = false;
-    const double perPixel =
-        2 * cam_.distance * std::tan(cam_.fovY * M_PI / 360) / std::max(1, height());
-    cam_.target -= (cam_.right() * float(d.x()) - cam_.up() * float(d.y())) * float(perPixel);
-    update();
-  }
-}
-
-void HullGlView::wheelEvent(QWheelEvent* e) {
-  const double steps = e->angleDelta().y() / 120.0;
-  if (steps == 0) return;
-  framed_ = false;
-  const double k = std::pow(0.85, steps);
-  // The point under the pointer stays there: the target moves toward it by
-  // the share of the distance the zoom takes off.
-  const double perPixel =
-      2 * cam_.distance * std::tan(cam_.fovY * M_PI / 360) / std::max(1, height());
-  const QPointF c = e->position() - QPointF(width() / 2.0, height() / 2.0);
-  const QVector3D under =
-      cam_.target + (cam_.right() * float(c.x()) - cam_.up() * float(c.y())) * float(perPixel);
-  cam_.target += (under - cam_.target) * float(1 - k);
-  cam_.distance = std::clamp(cam_.distance * k, 1e-3, 1e4);
-  update();
-}
+}  // namespace
 
 HullViewWindow::HullViewWindow(QWidget* parent, const HullStore& h)
     : QWidget(parent, Qt::Window),
       h_(h),
       gl_(new HullGlView),
       container_(QWidget::createWindowContainer(gl_, this)) {
+  setObjectName("hullView");
   container_->setObjectName("hullPicture");
   container_->setMinimumSize(320, 200);
   container_->setFocusPolicy(Qt::StrongFocus);
-  setObjectName("hullView");
-  const bool fr = h.langue == 0;
-  setWindowTitle(fr ? "Vue 3D" : "3-D view");
-  auto* buttons = new QHBoxLayout;
-  const struct {
-    const char* name;
-    const char* french;
-    const char* english;
-    StandardView v;
-  } views[] = {{"viewSide", "Côté", "Side", StandardView::side},
-               {"viewFace", "Face", "Face", StandardView::face},
-               {"viewTop", "Dessus", "Top", StandardView::top},
-               {"viewQuarter", "Trois-quarts", "Quarter", StandardView::quarter},
-               {"viewIsometric", "Isométrique", "Isometric", StandardView::isometric}};
+
+  auto* views = new QHBoxLayout;
   int key = Qt::Key_1;
-  for (const auto& v : views) {
-    auto* b = new QPushButton(QString::fromUtf8(fr ? v.french : v.english), this);
+  for (const ViewButton& v : kViews) {
+    auto* b = new QPushButton(this);
     b->setObjectName(v.name);
     b->setShortcut(QKeySequence(key++));
     const StandardView sv = v.v;
-    connect(b, &QPushButton::clicked, gl_, [this, sv] { gl_->showView(sv); });
-    buttons->addWidget(b);
+    connect(b, &QPushButton::clicked, this, [this, sv] { showView(sv); });
+    views->addWidget(b);
   }
-  auto* fit = new QPushButton(fr ? "Cadrer" : "Fit", this);
+  auto* fit = new QPushButton(this);
   fit->setObjectName("viewFit");
   fit->setShortcut(QKeySequence(Qt::Key_F));
   connect(fit, &QPushButton::clicked, gl_, &HullGlView::fit);
-  buttons->addWidget(fit);
-  buttons->addStretch();
+  views->addWidget(fit);
+  views->addStretch();
+
+  auto* water = new QHBoxLayout;
+  water_ = new QCheckBox(this);
+  water_->setObjectName("viewWater");
+  connect(water_, &QCheckBox::toggled, this, [this] {
+    showWater();
+    saveSettings();
+  });
+  water->addWidget(water_);
+  water->addSpacing(16);
+  heelLabel_ = new QLabel(this);
+  water->addWidget(heelLabel_);
+  heel_ = new QDoubleSpinBox(this);
+  heel_->setObjectName("viewHeel");
+  heel_->setRange(-180, 180);
+  heel_->setDecimals(1);
+  heel_->setSingleStep(1);
+  heel_->setSuffix(QString::fromUtf8(" °"));
+  heelLabel_->setBuddy(heel_);
+  connect(heel_, &QDoubleSpinBox::valueChanged, this, [this](double deg) {
+    gl_->setHeel(deg);
+    showWater();
+    saveSettings();
+  });
+  water->addWidget(heel_);
+  stabilityHeel_ = new QPushButton(this);
+  stabilityHeel_->setObjectName("viewStabilityHeel");
+  stabilityHeel_->setEnabled(false);
+  connect(stabilityHeel_, &QPushButton::clicked, this, [this] {
+    const std::optional<double> deg = stabilityHeelOf_ ? stabilityHeelOf_() : std::nullopt;
+    if (deg && std::isfinite(*deg)) heel_->setValue(*deg);
+    stabilityHeel_->setEnabled(deg.has_value());
+  });
+  water->addWidget(stabilityHeel_);
+  message_ = new QLabel(this);
+  message_->setObjectName("viewMessage");
+  water->addWidget(message_, 1);
+
   auto* box = new QVBoxLayout(this);
   box->addWidget(container_, 1);
-  box->addLayout(buttons);
-  resize(900, 600);
+  box->addLayout(views);
+  box->addLayout(water);
+  resize(900, 620);
+  loadSettings();
   follow();
 }
 
-void HullViewWindow::follow() {
-  if (lastChines_ == h_.nChines && lastX_ == h_.lineX && lastY_ == h_.lineY && lastZ_ == h_.lineZ)
+HullViewWindow::~HullViewWindow() = default;
+
+void HullViewWindow::setTexts() {
+  const bool fr = h_.langue == 0;
+  setWindowTitle(text(fr, "Vue 3D", "3-D view"));
+  for (const ViewButton& v : kViews)
+    findChild<QPushButton*>(v.name)->setText(text(fr, v.french, v.english));
+  findChild<QPushButton*>("viewFit")->setText(text(fr, "Cadrer", "Fit"));
+  water_->setText(text(fr, "Plan d'eau", "Water plane"));
+  water_->setToolTip(text(fr,
+                          "Le plan d'eau du dernier calcul hydrostatique (affiché après un "
+                          "calcul)",
+                          "The water plane of the last hydrostatic calculation (shown after "
+                          "one)"));
+  heelLabel_->setText(text(fr, "&Gîte", "&Heel"));
+  heel_->setToolTip(text(fr, "Gîte en degrés, positive tribord dans l'eau",
+                         "Heel in degrees, positive with the starboard side down"));
+  stabilityHeel_->setText(text(fr, "Gîte de la stabilité", "Stability heel"));
+  stabilityHeel_->setToolTip(text(fr,
+                                  "La gîte que donne l'équipage sur un bord dans la fenêtre "
+                                  "Stabilité",
+                                  "The heel a crew on one side gives in the Stability window"));
+}
+
+void HullViewWindow::showView(StandardView v) {
+  view_ = v;
+  gl_->showView(v);
+  saveSettings();
+}
+
+void HullViewWindow::showWater() {
+  message_->clear();
+  const bool result = stability::lastWaterHeight(h_).has_value();
+  water_->setEnabled(result);
+  if (!result || !water_->isChecked()) {
+    gl_->setWater(std::nullopt);
     return;
-  lastChines_ = h_.nChines;
-  lastX_ = h_.lineX;
-  lastY_ = h_.lineY;
-  lastZ_ = h_.lineZ;
-  gl_->setHull(h_);
+  }
+  const auto w = stability::shownWater(h_, mesh_, heel_->value());
+  if (!w) {
+    gl_->setWater(std::nullopt);
+    message_->setText(text(h_.langue == 0, "La carène ne flotte pas à cette gîte.",
+                           "The hull does not float at this heel."));
+    return;
+  }
+  WaterQuad q;
+  for (int k = 0; k < 4; ++k)
+    q[k] = QVector3D(float(w->corners[k].x), float(w->corners[k].y), float(w->corners[k].z));
+  gl_->setWater(q);
+}
+
+void HullViewWindow::follow() {
+  if (langue_ != h_.langue) {
+    langue_ = h_.langue;
+    setTexts();
+  }
+  if (stabilityHeelOf_) stabilityHeel_->setEnabled(stabilityHeelOf_().has_value());
+  const bool lines =
+      lastChines_ != h_.nChines || lastX_ != h_.lineX || lastY_ != h_.lineY || lastZ_ != h_.lineZ;
+  const bool hydro = lastWlX_ != h_.wlX || lastWlZ_ != h_.wlZ || lastArea_ != h_.sectArea ||
+                     lastPitch_ != h_.pitch;
+  if (lines) {
+    lastChines_ = h_.nChines;
+    lastX_ = h_.lineX;
+    lastY_ = h_.lineY;
+    lastZ_ = h_.lineZ;
+    gl_->setHull(h_);
+    mesh_ = h_.nChines >= 1 ? stability::hullHydroMesh(h_) : stability::HydroMesh{};
+  }
+  if (lines || hydro) {
+    lastWlX_ = h_.wlX;
+    lastWlZ_ = h_.wlZ;
+    lastArea_ = h_.sectArea;
+    lastPitch_ = h_.pitch;
+    showWater();
+  }
+}
+
+void HullViewWindow::setStabilityHeel(std::function<std::optional<double>()> heel) {
+  stabilityHeelOf_ = std::move(heel);
+  stabilityHeel_->setEnabled(stabilityHeelOf_ && stabilityHeelOf_().has_value());
+}
+
+void HullViewWindow::loadSettings() {
+  QSettings s;
+  s.beginGroup("view3d");
+  const int v = s.value("view", static_cast<int>(StandardView::isometric)).toInt();
+  const double heel = s.value("heel", 0.0).toDouble();
+  const bool water = s.value("water", true).toBool();
+  s.endGroup();
+  view_ = v >= 0 && v <= static_cast<int>(StandardView::bottom) ? static_cast<StandardView>(v)
+                                                                : StandardView::isometric;
+  gl_->showView(view_);
+  const QSignalBlocker b1(heel_), b2(water_);
+  heel_->setValue(std::isfinite(heel) ? heel : 0);
+  gl_->setHeel(heel_->value());
+  water_->setChecked(water);
+}
+
+void HullViewWindow::saveSettings() const {
+  QSettings s;
+  s.beginGroup("view3d");
+  s.setValue("view", static_cast<int>(view_));
+  s.setValue("heel", heel_->value());
+  s.setValue("water", water_->isChecked());
+  s.endGroup();
 }
 
 HullViewWindow* openHullViewWindow(QWidget* board, const HullStore& h) {
@@ -184,30 +233,6 @@ HullViewWindow* openHullViewWindow(QWidget* board, const HullStore& h) {
   }
   probe.doneCurrent();
   return new HullViewWindow(board, h);
-}
-
-void saveHullModel(QWidget* board, const HullStore& h) {
-  const bool fr = h.langue == 0;
-  const QString title = QString::fromUtf8(fr ? "Modèle 3D (STL, OBJ)" : "3-D model (STL, OBJ)");
-  const FoldReport folds = checkFolds(h);
-  if (folds.folded()) {
-    QMessageBox::warning(board, title, QString::fromStdString(folds.message(h.langue)));
-    return;
-  }
-  QString filter;
-  const QString path = QFileDialog::getSaveFileName(
-      board, title, QString(), "STL (*.stl);;OBJ (*.obj);;STL mm (*.stl)", &filter);
-  if (path.isEmpty()) return;
-  MeshUnits u;
-  u.millimetres = filter.startsWith("STL mm");
-  const MeshFormat f = path.endsWith(".obj", Qt::CaseInsensitive) || filter.startsWith("OBJ")
-                           ? MeshFormat::obj
-                           : MeshFormat::stl;
-  const io::WriteResult w = writeHullModel(h, f, u, path.toStdString());
-  if (!w.ok())
-    QMessageBox::warning(board, title,
-                         (fr ? "Impossible d'écrire " : "Cannot write ") + path +
-                             (fr ? " : " : ": ") + QString::fromStdString(w.message));
 }
 
 }  // namespace tolmar::gui

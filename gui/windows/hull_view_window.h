@@ -1,84 +1,75 @@
-// The hull in 3-D beside the board: shaded plates, the lines over them,
-// orbit with the left button, pan with the right, the wheel zooms about
-// the pointer; buttons for the five standard views and "fit".  It follows
-// the hull: after a redraw on the board it shows the new lines.
-//
-// The picture is a QOpenGLWindow inside the widget window: it draws
-// straight into its own surface, so a frame costs no extra pass through a
-// texture and the widgets' compositor, which with a software renderer
-// costs more than the hull itself.
+// "3-D view…" of the Build menu: the hull in 3-D beside the board, with
+// buttons for the five standard views and "fit", the water plane of the
+// last hydrostatic result, and the heel, typed or taken from the
+// stability window.  It follows the hull: after a redraw on the board it
+// shows the new lines, after a hydrostatic calculation the new water.  The
+// view, the water shown and the heel are remembered between runs.
 #pragma once
 
-#include <QOpenGLWindow>
 #include <QWidget>
-#include <memory>
+#include <functional>
+#include <optional>
 
 #include "hull/hull_store.h"
-#include "qtdraw/hull_scene.h"
-#include "qtdraw/scene_renderer.h"
+#include "qtdraw/scene_camera.h"
+#include "stability/hydro_mesh.h"
+
+class QCheckBox;
+class QDoubleSpinBox;
+class QLabel;
+class QPushButton;
 
 namespace tolmar::gui {
 
-class HullGlView : public QOpenGLWindow {
-  Q_OBJECT
- public:
-  HullGlView();
-  ~HullGlView() override;
-
-  void setHull(const HullStore& h);
-  void showView(StandardView v);
-  // Frames the hull tightly from the present direction.
-  void fit();
-  const SceneCamera& camera() const { return cam_; }
-  const HullScene& scene() const { return scene_; }
-  // Draws a frame now and returns it (for tests and pictures): the window
-  // shows its frames through the swap, after which they cannot be read.
-  QImage picture();
-  // Turns the camera as a drag of (dx, dy) pixels with the left button does.
-  void orbit(double dx, double dy);
-
- protected:
-  void initializeGL() override;
-  void resizeGL(int w, int h) override;
-  void paintGL() override;
-  void mousePressEvent(QMouseEvent* e) override;
-  void mouseMoveEvent(QMouseEvent* e) override;
-  void wheelEvent(QWheelEvent* e) override;
-
- private:
-  void releaseGl();
-  double aspect() const;
-
-  HullScene scene_;
-  SceneRenderer renderer_;
-  SceneCamera cam_;
-  QPointF last_;
-  // Fitted again when the picture changes size, until the user moves the
-  // camera.
-  bool framed_ = true;
-};
+class HullGlView;
 
 class HullViewWindow : public QWidget {
   Q_OBJECT
  public:
   HullViewWindow(QWidget* parent, const HullStore& h);
+  ~HullViewWindow() override;
+
   HullGlView& view() { return *gl_; }
   QWidget* picture() const { return container_; }
-  // Shows the hull again if its lines changed since it was last shown.
+  QCheckBox* waterBox() const { return water_; }
+  QDoubleSpinBox* heelBox() const { return heel_; }
+  QPushButton* stabilityHeelButton() const { return stabilityHeel_; }
+  QLabel* message() const { return message_; }
+
+  // Shows the hull again if its lines changed since it was last shown, the
+  // water if the hydrostatics changed, the texts if the language did.
   void follow();
+  // The heel the stability window shows, when it shows one (degrees,
+  // starboard down positive); the button takes it.
+  void setStabilityHeel(std::function<std::optional<double>()> heel);
 
  private:
+  void setTexts();
+  void showView(StandardView v);
+  void showWater();
+  void loadSettings();
+  void saveSettings() const;
+
   const HullStore& h_;
   HullGlView* gl_;
   QWidget* container_;
+  QCheckBox* water_ = nullptr;
+  QLabel* heelLabel_ = nullptr;
+  QDoubleSpinBox* heel_ = nullptr;
+  QPushButton* stabilityHeel_ = nullptr;
+  QLabel* message_ = nullptr;
+  std::function<std::optional<double>()> stabilityHeelOf_;
+  StandardView view_ = StandardView::isometric;
+  stability::HydroMesh mesh_;
+  // What was shown last, to tell a change.
   PointTable lastX_, lastY_, lastZ_;
   int lastChines_ = -1;
+  PointArr lastWlX_, lastWlZ_, lastArea_;
+  double lastPitch_ = 0;
+  int langue_ = -1;
 };
 
 // The window, or null after a message when no OpenGL context can be made.
 HullViewWindow* openHullViewWindow(QWidget* board, const HullStore& h);
-
-// "3-D model (STL, OBJ)…" of the File menu: a save dialog, then the file.
-void saveHullModel(QWidget* board, const HullStore& h);
 
 }  // namespace tolmar::gui

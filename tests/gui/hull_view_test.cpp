@@ -1,15 +1,26 @@
 // The 3-D view: disabled before the lines are drawn, then opened from the
 // Build menu, shaded (the picture is not all background), turned by a drag
 // with the left button, zoomed by the wheel, put in a standard view, and
-// closed; it follows the hull after the planking changes.
+// closed; it follows the hull after the planking changes.  The water plane
+// once the hydrostatics have floated the hull, shown and hidden; the heel,
+// typed or the stability window's, turning the hull starboard down; the
+// choices remembered when the window opens again; French texts.
 #include <QAction>
+#include <QCheckBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QPushButton>
+#include <QSettings>
 #include <QtTest>
+#include <cmath>
 
+#include "analysis/hydro_solver.h"
 #include "board_session_util.h"
+#include "stability/hydro_mesh.h"
 #include "windows/bouchain2_window.h"
+#include "windows/hull_gl_view.h"
 #include "windows/hull_view_window.h"
 
 namespace tolmar {
@@ -41,12 +52,56 @@ int unlike(const QImage& img, QRgb background) {
   return n;
 }
 
+// The angle of the silhouette's long axis to the picture's rows, degrees,
+// from its second moments: positive when its right end lies lower.
+double tilt(const QImage& img) {
+  const QRgb bg = img.pixel(2, 2);
+  double n = 0, sx = 0, sy = 0, sxx = 0, syy = 0, sxy = 0;
+  for (int y = 0; y < img.height(); ++y)
+    for (int x = 0; x < img.width(); ++x) {
+      const QRgb p = img.pixel(x, y);
+      if (qAbs(qRed(p) - qRed(bg)) + qAbs(qGreen(p) - qGreen(bg)) + qAbs(qBlue(p) - qBlue(bg)) < 30)
+        continue;
+      n += 1, sx += x, sy += y, sxx += double(x) * x, syy += double(y) * y, sxy += double(x) * y;
+    }
+  const double mx = sx / n, my = sy / n;
+  const double mu20 = sxx / n - mx * mx, mu02 = syy / n - my * my, mu11 = sxy / n - mx * my;
+  return 0.5 * std::atan2(2 * mu11, mu20 - mu02) * 180 / M_PI;
+}
+
+// Pixels of the background seen through the water: its light blue-grey
+// blended with the water's blue.
+int wateredBackground(const QImage& img) {
+  int n = 0;
+  for (int y = 0; y < img.height(); ++y)
+    for (int x = 0; x < img.width(); ++x) {
+      const QRgb p = img.pixel(x, y);
+      n += qAbs(qRed(p) - 172) < 20 && qAbs(qGreen(p) - 198) < 20 && qAbs(qBlue(p) - 230) < 20;
+    }
+  return n;
+}
+
+// The board with the planks drawn and the 3-D view open on it.
+gui::HullViewWindow* openView(Started& p) {
+  p.createAndValidate();
+  p.board().button(C::Command1_1)->click();
+  p.s->bouchain2().valider();
+  p.board().view3dAction()->trigger();
+  gui::HullViewWindow* w = p.board().view3d();
+  if (w && !QTest::qWaitForWindowExposed(w)) return nullptr;
+  return w;
+}
+
 }  // namespace
 
 class HullViewTest : public QObject {
   Q_OBJECT
  private slots:
-  void initTestCase() { test::quietOffscreen(); }
+  void initTestCase() {
+    test::quietOffscreen();
+    QCoreApplication::setOrganizationName("tolmar-test-view3d");
+    QSettings().remove("view3d");
+  }
 
   void opensOrbitsZoomsAndCloses() {
     Started p;
@@ -78,7 +133,7 @@ class HullViewTest : public QObject {
     mouse(&gl, QEvent::MouseButtonPress, c, Qt::LeftButton, Qt::LeftButton);
     mouse(&gl, QEvent::MouseMove, c + QPoint(50, 0), Qt::NoButton, Qt::LeftButton);
     mouse(&gl, QEvent::MouseButtonRelease, c + QPoint(50, 0), Qt::LeftButton, Qt::NoButton);
-    QVERIFY(qAbs(gl.camera().yaw - (yaw - 20)) < 1e-9);
+    QVERIFY(qAbs(gl.camera().yaw - (yaw + 20)) < 1e-9);
     QVERIFY(gl.picture() != first);
 
     QWheelEvent wheel(QPointF(c), gl.mapToGlobal(QPointF(c)), QPoint(), QPoint(0, 120),
@@ -103,6 +158,97 @@ class HullViewTest : public QObject {
 
     w->close();
     QTRY_VERIFY(!p.board().view3d());
+  }
+
+  void waterPlaneComesWithTheHydrostatics() {
+    if (!canMakeGl()) QSKIP("no OpenGL context on this display");
+    Started p;
+    gui::HullViewWindow* w = openView(p);
+    QVERIFY(w);
+    QCheckBox* water = w->waterBox();
+    QCOMPARE(water->text(), QString("Water plane"));
+    QVERIFY2(!water->isEnabled(), "no hydrostatic result yet");
+    w->findChild<QPushButton*>("viewIsometric")->click();
+    QCOMPARE(wateredBackground(w->view().picture()), 0);
+
+    // Floated half way up the hull, as the hydrostatics screen does it.
+    HullStore& h = p.h();
+    const stability::HydroMesh m = stability::hullHydroMesh(h);
+    hydroAtWaterline(h, m.low.z + 0.4 * (m.curveTop - m.low.z), 0).state.storeInto(h);
+    w->follow();
+    QVERIFY(water->isEnabled());
+    water->setChecked(true);
+    QVERIFY(w->view().scene().water());
+    const QImage wet = w->view().picture();
+    // Seen from above the plane spreads well around the hull.
+    QVERIFY2(wateredBackground(wet) > wet.width() * wet.height() / 10,
+             qPrintable(QString::number(wateredBackground(wet))));
+    water->setChecked(false);
+    QVERIFY(!w->view().scene().water());
+    QCOMPARE(wateredBackground(w->view().picture()), 0);
+    w->close();
+  }
+
+  void heelTurnsTheHullStarboardDown() {
+    if (!canMakeGl()) QSKIP("no OpenGL context on this display");
+    Started p;
+    gui::HullViewWindow* w = openView(p);
+    QVERIFY(w);
+    w->findChild<QPushButton*>("viewFace")->click();
+    QDoubleSpinBox* heel = w->heelBox();
+    heel->setValue(0);
+    const double upright = tilt(w->view().picture());
+    QVERIFY2(std::abs(upright) < 1, qPrintable(QString::number(upright)));
+    // From ahead starboard is on the left: it goes down, the hull tilts by
+    // the heel, the fit following it.
+    heel->setValue(20);
+    QCOMPARE(w->view().scene().heel(), 20.0);
+    const QImage heeled = w->view().picture();
+    const double turned = tilt(heeled);
+    QVERIFY2(std::abs(turned + 20) < 3, qPrintable(QString::number(turned)));
+    int left = heeled.width(), right = -1;
+    for (int y = 0; y < heeled.height(); ++y)
+      for (int x = 0; x < heeled.width(); ++x)
+        if (heeled.pixel(x, y) != heeled.pixel(2, 2))
+          left = std::min(left, x), right = std::max(right, x);
+    QVERIFY2(left > 0 && right < heeled.width() - 1, "framed whole");
+
+    // No stability window open: nothing to take.
+    QVERIFY(!w->stabilityHeelButton()->isEnabled());
+    w->setStabilityHeel([] { return std::optional<double>(-12.5); });
+    QVERIFY(w->stabilityHeelButton()->isEnabled());
+    w->stabilityHeelButton()->click();
+    QCOMPARE(heel->value(), -12.5);
+    QCOMPARE(w->view().scene().heel(), -12.5);
+    w->close();
+    QTRY_VERIFY(!p.board().view3d());
+
+    // Opened again: the face view and the heel as they were left.
+    p.board().view3dAction()->trigger();
+    w = p.board().view3d();
+    QVERIFY(w);
+    QCOMPARE(w->heelBox()->value(), -12.5);
+    QCOMPARE(w->view().camera().yaw, 0.0);
+    QCOMPARE(w->view().camera().pitch, 0.0);
+    w->heelBox()->setValue(0);
+    w->close();
+  }
+
+  void textsFollowTheLanguage() {
+    Started p;
+    p.createAndValidate();
+    p.board().button(C::Command1_1)->click();
+    p.s->bouchain2().valider();
+    p.h().langue = 0;
+    gui::HullViewWindow w(nullptr, p.h());
+    QCOMPARE(w.windowTitle(), QString("Vue 3D"));
+    QCOMPARE(w.waterBox()->text(), QString("Plan d'eau"));
+    QCOMPARE(w.findChild<QPushButton*>("viewFit")->text(), QString("Cadrer"));
+    QCOMPARE(w.stabilityHeelButton()->text(), QString::fromUtf8("Gîte de la stabilité"));
+    p.h().langue = 1;
+    w.follow();
+    QCOMPARE(w.windowTitle(), QString("3-D view"));
+    QCOMPARE(w.waterBox()->text(), QString("Water plane"));
   }
 };
 

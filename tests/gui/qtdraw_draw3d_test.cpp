@@ -7,6 +7,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <cmath>
 
 namespace {
 
@@ -28,6 +29,42 @@ Box silhouette(const QImage& img) {
       b.top = std::min(b.top, y), b.bottom = std::max(b.bottom, y);
     }
   return b;
+}
+
+// The angle of the silhouette's long axis to the picture's rows, degrees,
+// from its second moments: positive when its right end lies lower (rows
+// run down the picture).
+double tilt(const QImage& img) {
+  const QRgb bg = img.pixel(0, 0);
+  double n = 0, sx = 0, sy = 0, sxx = 0, syy = 0, sxy = 0;
+  for (int y = 0; y < img.height(); ++y)
+    for (int x = 0; x < img.width(); ++x) {
+      const QRgb p = img.pixel(x, y);
+      if (qAbs(qRed(p) - qRed(bg)) + qAbs(qGreen(p) - qGreen(bg)) + qAbs(qBlue(p) - qBlue(bg)) < 30)
+        continue;
+      n += 1, sx += x, sy += y, sxx += double(x) * x, syy += double(y) * y, sxy += double(x) * y;
+    }
+  const double mx = sx / n, my = sy / n;
+  const double mu20 = sxx / n - mx * mx, mu02 = syy / n - my * my, mu11 = sxy / n - mx * my;
+  return 0.5 * std::atan2(2 * mu11, mu20 - mu02) * 180 / M_PI;
+}
+
+// draw3d into dir/name.png with the arguments given; empty when no OpenGL.
+QImage draw3d(const QTemporaryDir& dir, const QString& name, const QStringList& args, bool& noGl) {
+  const QString out = dir.filePath(name + ".png");
+  QProcess p;
+  QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+  env.insert("QT_QPA_PLATFORM", "xcb");
+  p.setProcessEnvironment(env);
+  p.start(QStandardPaths::findExecutable("xvfb-run"),
+          QStringList{"-a", "-s", "-screen 0 1024x768x24", TOLMAR_CLI, "draw3d",
+                      QString(TOLMAR_GOLDEN) + "/default_hull.D50", out} +
+              args);
+  p.waitForFinished(60000);
+  const QString err = QString::fromLocal8Bit(p.readAllStandardError());
+  noGl = p.exitCode() == 1 && err.contains("OpenGL");
+  if (p.exitCode() != 0 && !noGl) qWarning("%s", qPrintable(err));
+  return p.exitCode() == 0 ? QImage(out) : QImage();
 }
 
 }  // namespace
@@ -66,6 +103,30 @@ class Draw3dTest : public QObject {
     QVERIFY2(boxes["top"].aspect() < 0.6, qPrintable(QString::number(boxes["top"].aspect())));
     const double front = boxes["front"].aspect();
     QVERIFY2(front > 1.2 && front < 3, qPrintable(QString::number(front)));
+  }
+
+  // Heeled, the hull turns about its length as a rigid body: seen from
+  // ahead, its section (wider than deep, so lying along the rows) tilts by
+  // the heel.  Starboard down for a positive heel, and starboard is on the
+  // left of a picture taken from ahead, so the left end goes down.
+  void heelTiltsTheHullSeenFromAhead() {
+    if (QStandardPaths::findExecutable("xvfb-run").isEmpty()) QSKIP("xvfb-run is not installed");
+    QTemporaryDir dir;
+    bool noGl = false;
+    QMap<int, double> tilts;
+    for (const int heel : {0, 20, -20}) {
+      const QImage img =
+          draw3d(dir, QString("heel%1").arg(heel),
+                 {"--view", "front", "--size", "800x500", "--heel", QString::number(heel)}, noGl);
+      if (noGl) QSKIP("no OpenGL context under Xvfb");
+      QVERIFY(!img.isNull());
+      tilts[heel] = tilt(img);
+    }
+    QVERIFY2(std::abs(tilts[0]) < 1, qPrintable(QString::number(tilts[0])));
+    // The perspective (the bow nearer than the transom) bends the rigid
+    // turn by a little.
+    QVERIFY2(std::abs(tilts[20] + 20) < 3, qPrintable(QString::number(tilts[20])));
+    QVERIFY2(std::abs(tilts[-20] - 20) < 3, qPrintable(QString::number(tilts[-20])));
   }
 };
 
