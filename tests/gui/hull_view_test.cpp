@@ -163,6 +163,9 @@ class HullViewTest : public QObject {
           top = std::min(top, y), bottom = std::max(bottom, y);
         }
     QVERIFY(right - left > 2 * (bottom - top));
+    // Fitted tightly: the length takes nearly the whole width, centred.
+    QVERIFY2(right - left > 0.9 * side.width(), qPrintable(QString::number(right - left)));
+    QVERIFY(std::abs(left + right - side.width()) < 0.02 * side.width());
 
     w->close();
     QTRY_VERIFY(!p.board().view3d());
