@@ -71,11 +71,18 @@ Box boxOf(const Path& p) {
 }
 
 // How a pass picks among the places a piece fits on one sheet.
+// Ties go to the place that leaves the least room under the piece, then
+// to the least X.
 enum class NestRule {
-  lowest,     // the least Y the piece starts at, then the least X
-  lowestTop,  // the least Y the piece reaches, then the least X
+  lowest,     // the least Y the piece starts at
+  lowestTop,  // the least Y the piece reaches
   leftmost,   // the least X, then the least Y
+  snug,       // the least room left under the piece, then the least Y
 };
+
+// The orders of a quick nesting: by area, length, width and box, and the
+// same with the pieces that slope one way first.
+constexpr std::size_t kQuickOrders = 8;
 
 // A shape in one of its turns: its box, its outline grown by the kerf (as
 // it blocks the pieces after it), and its columns.
@@ -109,7 +116,29 @@ struct Sheet {
 
 struct Spot {
   cInt dx = 0, dy = 0;
+  double under = 0;  // the free area between the piece and what is below it
 };
+
+// The free area, units squared, between the piece with the spans `cols`
+// (as lowestAt takes them) moved up by dy and the highest of the sheet's
+// edge and what the columns hold below it.
+double roomUnder(const Sheet& s, const std::vector<ColumnSpan>& cols, std::size_t c0, std::size_t m,
+                 cInt x0, cInt x1, cInt sheetX0, cInt sheetY0, cInt dy) {
+  double room = 0;
+  for (std::size_t j = 0; j < m; ++j) {
+    const ColumnSpan& c = cols[j];
+    const cInt cx0 = sheetX0 + cInt(c0 + j) * kStep;
+    const cInt px0 = std::max(x0, cx0), px1 = std::min(x1, cx0 + kStep);
+    if (c.lo > c.hi || px0 >= px1) continue;
+    cInt below = sheetY0;
+    for (const Held& o : s.columns[c0 + j]) {
+      if (o.lo >= dy + c.lo) break;
+      if (o.hi <= dy + c.lo && o.hi > below && o.x0 < px1 && px0 < o.x1) below = o.hi;
+    }
+    room += double(dy + c.lo - below) * double(px1 - px0);
+  }
+  return room;
+}
 
 // The least dy in [fy0, fy1] at which the piece with the spans `cols`,
 // from sheet column c0 on, taking X from x0 to x1 on the sheet, meets
@@ -200,11 +229,10 @@ class Pass {
   }
   bool better(const Turn& t, const Spot& a, const Turn& u, const Spot& b) const {
     const cInt ax = a.dx + t.box.x0, bx = b.dx + u.box.x0;
-    if (rule_ == NestRule::leftmost) {
-      if (ax != bx) return ax < bx;
-      return key(t, a) < key(u, b);
-    }
+    if (rule_ == NestRule::leftmost && ax != bx) return ax < bx;
+    if (rule_ == NestRule::snug && a.under != b.under) return a.under < b.under;
     if (key(t, a) != key(u, b)) return key(t, a) < key(u, b);
+    if (a.under != b.under) return a.under < b.under;
     return ax < bx;
   }
 
@@ -235,6 +263,8 @@ class Pass {
       if (!lowestAt(sheet, cols, static_cast<std::size_t>(c0), m, dx + t.box.x0, dx + t.box.x1,
                     r_.x0, fy0, fy1, at.dy))
         continue;
+      at.under = roomUnder(sheet, cols, static_cast<std::size_t>(c0), m, dx + t.box.x0,
+                           dx + t.box.x1, r_.x0, r_.y0, at.dy);
       if (!found || better(t, at, t, best)) best = at, found = true;
     }
     return found;
@@ -291,10 +321,14 @@ std::vector<Shape> prepare(const NestRequest& r) {
 
 }  // namespace
 
-NestResult nestBest(const NestRequest& r, int threads) {
+NestResult nestBest(const NestRequest& r, int threads, bool quick) {
   const std::vector<Shape> shapes = prepare(r);
-  const std::vector<std::vector<std::size_t>> orders = nestOrders(r.shapes);
-  const NestRule rules[] = {NestRule::lowest, NestRule::lowestTop, NestRule::leftmost};
+  std::vector<std::vector<std::size_t>> orders = nestOrders(r.shapes);
+  if (quick && orders.size() > kQuickOrders) orders.resize(kQuickOrders);
+  const std::vector<NestRule> rules =
+      quick ? std::vector<NestRule>{NestRule::lowest}
+            : std::vector<NestRule>{NestRule::lowest, NestRule::lowestTop, NestRule::leftmost,
+                                    NestRule::snug};
   const std::size_t tasks = orders.size() * std::size(rules);
   std::vector<NestResult> results(tasks);
   std::atomic<std::size_t> next{0};

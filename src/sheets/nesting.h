@@ -44,6 +44,7 @@ struct NestResult {
 // The best pass of every order with every way of picking a place among
 // those a piece fits (the lowest start, the lowest top, the least X), run
 // on `threads` threads (at least one): the same result whatever the count.
-NestResult nestBest(const NestRequest& r, int threads = 1);
+// `quick`: the first orders only, with the lowest start.
+NestResult nestBest(const NestRequest& r, int threads = 1, bool quick = false);
 
 }  // namespace tolmar::sheets
