@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cmath>
 #include <limits>
+#include <system_error>
 #include <thread>
 
 #include "sheets/column_profile.h"
@@ -80,9 +81,17 @@ enum class NestRule {
   snug,       // the least room left under the piece, then the least Y
 };
 
+constexpr NestRule kRules[] = {NestRule::lowest, NestRule::snug, NestRule::lowestTop,
+                               NestRule::leftmost};
+
 // The orders of a quick nesting: by area, length, width and box, and the
 // same with the pieces that slope one way first.
 constexpr std::size_t kQuickOrders = 8;
+
+// A pass costs about the square of the number of pieces n: about
+// kPassWork / n passes are run (all of them up to some 30 pieces), at
+// least two for each plain order.
+constexpr std::size_t kPassWork = 1800;
 
 // A shape in one of its turns: its box, its outline grown by the kerf (as
 // it blocks the pieces after it), and its columns.
@@ -323,27 +332,35 @@ std::vector<Shape> prepare(const NestRequest& r) {
 
 NestResult nestBest(const NestRequest& r, int threads, bool quick) {
   const std::vector<Shape> shapes = prepare(r);
-  std::vector<std::vector<std::size_t>> orders = nestOrders(r.shapes);
-  if (quick && orders.size() > kQuickOrders) orders.resize(kQuickOrders);
-  const std::vector<NestRule> rules =
-      quick ? std::vector<NestRule>{NestRule::lowest}
-            : std::vector<NestRule>{NestRule::lowest, NestRule::lowestTop, NestRule::leftmost,
-                                    NestRule::snug};
-  const std::size_t tasks = orders.size() * std::size(rules);
-  std::vector<NestResult> results(tasks);
+  const std::vector<std::vector<std::size_t>> orders = nestOrders(r.shapes);
+  // The passes, those most often best first: the plain and sloped orders
+  // with each rule in turn, then the shaken orders with every rule.
+  std::vector<std::pair<std::size_t, NestRule>> tasks;
+  const std::size_t plain = std::min(kQuickOrders, orders.size());
+  for (NestRule rule : kRules)
+    for (std::size_t k = 0; k < plain; ++k) tasks.emplace_back(k, rule);
+  for (std::size_t k = plain; k < orders.size(); ++k)
+    for (NestRule rule : kRules) tasks.emplace_back(k, rule);
+  const std::size_t n = std::max<std::size_t>(1, r.shapes.size());
+  tasks.resize(std::min(tasks.size(), quick ? plain : std::max(2 * plain, kPassWork / n)));
+  std::vector<NestResult> results(tasks.size());
   std::atomic<std::size_t> next{0};
   auto work = [&] {
-    for (std::size_t t; (t = next++) < tasks;)
-      results[t] = Pass(r, shapes, rules[t % std::size(rules)]).run(orders[t / std::size(rules)]);
+    for (std::size_t t; (t = next++) < tasks.size();)
+      results[t] = Pass(r, shapes, tasks[t].second).run(orders[tasks[t].first]);
   };
   std::vector<std::thread> pool;
-  for (int i = 1; i < threads; ++i) pool.emplace_back(work);
+  // Without more threads the passes all run on this one.
+  try {
+    for (int i = 1; i < threads; ++i) pool.emplace_back(work);
+  } catch (const std::system_error&) {
+  }
   work();
   for (std::thread& t : pool) t.join();
   std::size_t best = 0;
-  for (std::size_t t = 1; t < tasks; ++t)
+  for (std::size_t t = 1; t < tasks.size(); ++t)
     if (results[t].betterThan(results[best])) best = t;
-  return tasks ? std::move(results[best]) : NestResult{};
+  return tasks.empty() ? NestResult{} : std::move(results[best]);
 }
 
 }  // namespace tolmar::sheets
