@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cmath>
 #include <limits>
+#include <system_error>
 #include <thread>
 
 #include "sheets/column_profile.h"
@@ -71,11 +72,26 @@ Box boxOf(const Path& p) {
 }
 
 // How a pass picks among the places a piece fits on one sheet.
+// Ties go to the place that leaves the least room under the piece, then
+// to the least X.
 enum class NestRule {
-  lowest,     // the least Y the piece starts at, then the least X
-  lowestTop,  // the least Y the piece reaches, then the least X
+  lowest,     // the least Y the piece starts at
+  lowestTop,  // the least Y the piece reaches
   leftmost,   // the least X, then the least Y
+  snug,       // the least room left under the piece, then the least Y
 };
+
+constexpr NestRule kRules[] = {NestRule::lowest, NestRule::snug, NestRule::lowestTop,
+                               NestRule::leftmost};
+
+// The orders of a quick nesting: by area, length, width and box, and the
+// same with the pieces that slope one way first.
+constexpr std::size_t kQuickOrders = 8;
+
+// A pass costs about the square of the number of pieces n: about
+// kPassWork / n passes are run (all of them up to some 30 pieces), at
+// least two for each plain order.
+constexpr std::size_t kPassWork = 1800;
 
 // A shape in one of its turns: its box, its outline grown by the kerf (as
 // it blocks the pieces after it), and its columns.
@@ -109,7 +125,29 @@ struct Sheet {
 
 struct Spot {
   cInt dx = 0, dy = 0;
+  double under = 0;  // the free area between the piece and what is below it
 };
+
+// The free area, units squared, between the piece with the spans `cols`
+// (as lowestAt takes them) moved up by dy and the highest of the sheet's
+// edge and what the columns hold below it.
+double roomUnder(const Sheet& s, const std::vector<ColumnSpan>& cols, std::size_t c0, std::size_t m,
+                 cInt x0, cInt x1, cInt sheetX0, cInt sheetY0, cInt dy) {
+  double room = 0;
+  for (std::size_t j = 0; j < m; ++j) {
+    const ColumnSpan& c = cols[j];
+    const cInt cx0 = sheetX0 + cInt(c0 + j) * kStep;
+    const cInt px0 = std::max(x0, cx0), px1 = std::min(x1, cx0 + kStep);
+    if (c.lo > c.hi || px0 >= px1) continue;
+    cInt below = sheetY0;
+    for (const Held& o : s.columns[c0 + j]) {
+      if (o.lo >= dy + c.lo) break;
+      if (o.hi <= dy + c.lo && o.hi > below && o.x0 < px1 && px0 < o.x1) below = o.hi;
+    }
+    room += double(dy + c.lo - below) * double(px1 - px0);
+  }
+  return room;
+}
 
 // The least dy in [fy0, fy1] at which the piece with the spans `cols`,
 // from sheet column c0 on, taking X from x0 to x1 on the sheet, meets
@@ -200,11 +238,10 @@ class Pass {
   }
   bool better(const Turn& t, const Spot& a, const Turn& u, const Spot& b) const {
     const cInt ax = a.dx + t.box.x0, bx = b.dx + u.box.x0;
-    if (rule_ == NestRule::leftmost) {
-      if (ax != bx) return ax < bx;
-      return key(t, a) < key(u, b);
-    }
+    if (rule_ == NestRule::leftmost && ax != bx) return ax < bx;
+    if (rule_ == NestRule::snug && a.under != b.under) return a.under < b.under;
     if (key(t, a) != key(u, b)) return key(t, a) < key(u, b);
+    if (a.under != b.under) return a.under < b.under;
     return ax < bx;
   }
 
@@ -235,6 +272,8 @@ class Pass {
       if (!lowestAt(sheet, cols, static_cast<std::size_t>(c0), m, dx + t.box.x0, dx + t.box.x1,
                     r_.x0, fy0, fy1, at.dy))
         continue;
+      at.under = roomUnder(sheet, cols, static_cast<std::size_t>(c0), m, dx + t.box.x0,
+                           dx + t.box.x1, r_.x0, r_.y0, at.dy);
       if (!found || better(t, at, t, best)) best = at, found = true;
     }
     return found;
@@ -291,25 +330,37 @@ std::vector<Shape> prepare(const NestRequest& r) {
 
 }  // namespace
 
-NestResult nestBest(const NestRequest& r, int threads) {
+NestResult nestBest(const NestRequest& r, int threads, bool quick) {
   const std::vector<Shape> shapes = prepare(r);
   const std::vector<std::vector<std::size_t>> orders = nestOrders(r.shapes);
-  const NestRule rules[] = {NestRule::lowest, NestRule::lowestTop, NestRule::leftmost};
-  const std::size_t tasks = orders.size() * std::size(rules);
-  std::vector<NestResult> results(tasks);
+  // The passes, those most often best first: the plain and sloped orders
+  // with each rule in turn, then the shaken orders with every rule.
+  std::vector<std::pair<std::size_t, NestRule>> tasks;
+  const std::size_t plain = std::min(kQuickOrders, orders.size());
+  for (NestRule rule : kRules)
+    for (std::size_t k = 0; k < plain; ++k) tasks.emplace_back(k, rule);
+  for (std::size_t k = plain; k < orders.size(); ++k)
+    for (NestRule rule : kRules) tasks.emplace_back(k, rule);
+  const std::size_t n = std::max<std::size_t>(1, r.shapes.size());
+  tasks.resize(std::min(tasks.size(), quick ? plain : std::max(2 * plain, kPassWork / n)));
+  std::vector<NestResult> results(tasks.size());
   std::atomic<std::size_t> next{0};
   auto work = [&] {
-    for (std::size_t t; (t = next++) < tasks;)
-      results[t] = Pass(r, shapes, rules[t % std::size(rules)]).run(orders[t / std::size(rules)]);
+    for (std::size_t t; (t = next++) < tasks.size();)
+      results[t] = Pass(r, shapes, tasks[t].second).run(orders[tasks[t].first]);
   };
   std::vector<std::thread> pool;
-  for (int i = 1; i < threads; ++i) pool.emplace_back(work);
+  // Without more threads the passes all run on this one.
+  try {
+    for (int i = 1; i < threads; ++i) pool.emplace_back(work);
+  } catch (const std::system_error&) {
+  }
   work();
   for (std::thread& t : pool) t.join();
   std::size_t best = 0;
-  for (std::size_t t = 1; t < tasks; ++t)
+  for (std::size_t t = 1; t < tasks.size(); ++t)
     if (results[t].betterThan(results[best])) best = t;
-  return tasks ? std::move(results[best]) : NestResult{};
+  return tasks.empty() ? NestResult{} : std::move(results[best]);
 }
 
 }  // namespace tolmar::sheets

@@ -41,9 +41,11 @@ struct NestResult {
   }
 };
 
-// The best pass of every order with every way of picking a place among
-// those a piece fits (the lowest start, the lowest top, the least X), run
-// on `threads` threads (at least one): the same result whatever the count.
-NestResult nestBest(const NestRequest& r, int threads = 1);
+// The best of the passes: every order with every way of picking a place
+// among those a piece fits (the lowest start, the least room left under
+// it, the lowest top, the least X), fewer for many pieces; `quick`: the
+// plain and sloped orders with the lowest start only.  On `threads`
+// threads (at least one): the same result whatever the count.
+NestResult nestBest(const NestRequest& r, int threads = 1, bool quick = false);
 
 }  // namespace tolmar::sheets

@@ -96,6 +96,11 @@ void addSheets(SheetPlan& plan, double thickness, const std::vector<int>& ids,
   }
 }
 
+// The tries at other ways of placing one part's joints: about this over
+// the number of pieces of the thickness (a quick nesting costs about the
+// square of that number).
+constexpr std::size_t kJointWork = 600;
+
 int threadCount() {
   const unsigned n = std::thread::hardware_concurrency();
   return static_cast<int>(std::clamp(n, 1u, 8u));
@@ -139,27 +144,32 @@ SheetPlan planParts(std::vector<SheetPart> parts, const SheetOptions& o, int lan
   const double U = o.lengthMm - 2 * o.marginMm, W = o.widthMm - 2 * o.marginMm;
   bool needsJoint = false;
   for (const SheetPart& p : parts) needsJoint |= boundingBox(p.outline).width() > U;
+  // The parts cut with the joints of each part placed its own way.
+  auto cutWith = [&](const std::vector<JointStrategy>& perPart) {
+    SheetPlan plan;
+    plan.options = o;
+    plan.parts = parts;
+    // A tenth of a millimetre to spare for the rounding of the outlines.
+    CutResult cut = cutParts(parts, o, U - 0.1, perPart, langue);
+    if (!cut.error.empty()) {
+      plan.error = cut.error;
+      return plan;
+    }
+    for (SheetPart& s : cut.straps) plan.parts.push_back(std::move(s));
+    plan.pieces = std::move(cut.pieces);
+    plan.joints = std::move(cut.joints);
+    plan.error = tooWide(plan, U, W, langue);
+    return plan;
+  };
   // Each way of placing the joints cuts the parts; the parts of one
   // thickness share their sheets with no other, so each thickness keeps
   // the way that needs the fewest sheets for it.
   std::vector<JointStrategy> ways = {JointStrategy::even};
   if (needsJoint) ways = {JointStrategy::even, JointStrategy::fromAft, JointStrategy::fromForward};
-  std::vector<SheetPlan> cuts;
   std::vector<JointStrategy> cutWays;
+  std::vector<SheetPlan> cuts;
   for (JointStrategy st : ways) {
-    SheetPlan plan;
-    plan.options = o;
-    plan.parts = parts;
-    // A tenth of a millimetre to spare for the rounding of the outlines.
-    CutResult cut = cutParts(parts, o, U - 0.1, st, langue);
-    if (!cut.error.empty()) {
-      plan.error = cut.error;
-    } else {
-      for (SheetPart& s : cut.straps) plan.parts.push_back(std::move(s));
-      plan.pieces = std::move(cut.pieces);
-      plan.joints = std::move(cut.joints);
-      plan.error = tooWide(plan, U, W, langue);
-    }
+    SheetPlan plan = cutWith(std::vector<JointStrategy>(parts.size(), st));
     if (!plan.error.empty()) {
       if (failed.error.empty()) failed = std::move(plan);
       continue;
@@ -179,13 +189,46 @@ SheetPlan planParts(std::vector<SheetPart> parts, const SheetOptions& o, int lan
   std::vector<JointStrategy> perPart(parts.size());
   for (std::size_t i = 0; i < parts.size(); ++i)
     perPart[i] = cutWays[best.at(parts[i].thicknessMm).first];
-  SheetPlan plan;
-  plan.options = o;
-  plan.parts = parts;
-  CutResult cut = cutParts(parts, o, U - 0.1, perPart, langue);
-  for (SheetPart& s : cut.straps) plan.parts.push_back(std::move(s));
-  plan.pieces = std::move(cut.pieces);
-  plan.joints = std::move(cut.joints);
+  // Then, a part (both its sides) at a time, another way for its joints is
+  // kept where a quick nesting of its thickness needs fewer sheets or
+  // leaves more of the last free: a part's end pieces change shape with
+  // its joints, and may then fit where the others leave room.
+  if (cutWays.size() > 1)
+    for (auto& [thickness, nest] : best) {
+      std::vector<std::string> names;
+      for (const SheetPart& p : parts)
+        if (p.thicknessMm == thickness && boundingBox(p.outline).width() > U - 0.1 &&
+            std::find(names.begin(), names.end(), p.name) == names.end() &&
+            std::none_of(o.jointsAt.begin(), o.jointsAt.end(),
+                         [&](const JointAt& j) { return j.part == p.name; }))
+          names.push_back(p.name);
+      const std::size_t n = nest.second.places.size();
+      std::size_t tries = std::clamp<std::size_t>(kJointWork / std::max<std::size_t>(n, 1), 4, 60);
+      bool changed = false;
+      for (int round = 0; round < 2 && tries; ++round)
+        for (const std::string& name : names)
+          for (JointStrategy st : cutWays) {
+            if (!tries) break;
+            std::vector<JointStrategy> trial = perPart;
+            bool other = false;
+            for (std::size_t i = 0; i < parts.size(); ++i)
+              if (parts[i].name == name && parts[i].thicknessMm == thickness)
+                other |= trial[i] != st, trial[i] = st;
+            if (!other) continue;
+            --tries;
+            const SheetPlan plan = cutWith(trial);
+            NestResult r = nestBest(request(plan, byThickness(plan).at(thickness)), threads, true);
+            if (!r.betterThan(nest.second)) continue;
+            perPart = std::move(trial);
+            nest.second = std::move(r);
+            changed = true;
+          }
+      if (changed) {
+        const SheetPlan plan = cutWith(perPart);
+        nest.second = nestBest(request(plan, byThickness(plan).at(thickness)), threads);
+      }
+    }
+  SheetPlan plan = cutWith(perPart);
   // A thickness's pieces come in the same order as in the cut it was
   // nested from: the parts' order, then their straps'.
   for (const auto& [thickness, ids] : byThickness(plan))
