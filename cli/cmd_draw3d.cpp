@@ -13,8 +13,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "analysis/hydro_solver.h"
 #include "command.h"
 #include "gui_application.h"
 #include "hull/fold_check.h"
@@ -22,13 +24,15 @@
 #include "pipeline.h"
 #include "qtdraw/hull_scene.h"
 #include "qtdraw/scene_renderer.h"
+#include "stability/hydro_mesh.h"
+#include "stability/shown_water.h"
 
 namespace tolmar::cli {
 namespace {
 
 constexpr const char* kUsage =
     "HULL.D50 OUT.png [--view iso|front|side|top|bottom] [--size WxH] [--heel DEG]\n"
-    "            [--auto] [--set SCREEN.CONTROL=VALUE]...";
+    "            [--zwl Z [--pitch DEG]] [--auto] [--set SCREEN.CONTROL=VALUE]...";
 
 int usage() {
   std::fprintf(stderr, "usage: tolmar-cli draw3d %s\n", kUsage);
@@ -46,12 +50,15 @@ int run(const Args& args) {
   PipelineOptions o;
   gui::StandardView view = gui::StandardView::isometric;
   int w = 1600, hgt = 1000;
-  double heel = 0;
+  double heel = 0, pitch = 0;
+  std::optional<double> zwl;
+  bool pitchGiven = false;
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& a = args[i];
     if (a == "--auto") {
       o.autoPlanking = true;
-    } else if (a == "--view" || a == "--size" || a == "--heel" || a == "--set") {
+    } else if (a == "--view" || a == "--size" || a == "--heel" || a == "--set" || a == "--zwl" ||
+               a == "--pitch") {
       if (i + 1 >= args.size()) return usage();
       const std::string& v = args[++i];
       if (a == "--view") {
@@ -75,11 +82,22 @@ int run(const Args& args) {
                        v.c_str());
           return 2;
         }
-      } else if (a == "--heel") {
+      } else if (a == "--heel" || a == "--pitch") {
         char* end = nullptr;
-        heel = std::strtod(v.c_str(), &end);
-        if (end == v.c_str() || *end || !std::isfinite(heel) || std::fabs(heel) > 180) {
-          std::fprintf(stderr, "tolmar-cli draw3d: --heel takes degrees, -180 to 180\n");
+        double& deg = a == "--heel" ? heel : pitch;
+        deg = std::strtod(v.c_str(), &end);
+        const double most = a == "--heel" ? 180 : 45;
+        if (end == v.c_str() || *end || !std::isfinite(deg) || std::fabs(deg) > most) {
+          std::fprintf(stderr, "tolmar-cli draw3d: %s takes degrees, -%g to %g\n", a.c_str(), most,
+                       most);
+          return 2;
+        }
+        pitchGiven |= a == "--pitch";
+      } else if (a == "--zwl") {
+        char* end = nullptr;
+        zwl = std::strtod(v.c_str(), &end);
+        if (end == v.c_str() || *end || !std::isfinite(*zwl)) {
+          std::fprintf(stderr, "tolmar-cli draw3d: --zwl takes a height in metres\n");
           return 2;
         }
       } else {
@@ -97,7 +115,7 @@ int run(const Args& args) {
       files.push_back(a);
     }
   }
-  if (files.size() != 2) return usage();
+  if (files.size() != 2 || (pitchGiven && !zwl)) return usage();
   if (!QString::fromStdString(files[1]).toLower().endsWith(".png")) {
     std::fprintf(stderr, "tolmar-cli draw3d: the picture must end in .png: %s\n", files[1].c_str());
     return 2;
@@ -112,6 +130,27 @@ int run(const Args& args) {
   if (const FoldReport folds = checkFolds(*h); folds.folded()) {
     std::fprintf(stderr, "tolmar-cli draw3d: %s\n", folds.message(r.langue).c_str());
     return 2;
+  }
+
+  // The water as the hydrostatics screen leaves it after a pass at that
+  // waterline, in this command's own copy of the hull.
+  std::optional<gui::WaterQuad> water;
+  if (zwl) {
+    hydroAtWaterline(*h, *zwl, pitch * M_PI / 180).state.storeInto(*h);
+    const auto shown = stability::shownWater(*h, stability::hullHydroMesh(*h), heel);
+    if (!stability::lastWaterHeight(*h)) {
+      std::fprintf(stderr, "tolmar-cli draw3d: the water at Z = %g m does not reach the hull\n",
+                   *zwl);
+      return 2;
+    }
+    if (!shown) {
+      std::fprintf(stderr,
+                   "tolmar-cli draw3d: the hull does not float at %g degrees of heel with the "
+                   "volume under Z = %g m\n",
+                   heel, *zwl);
+      return 2;
+    }
+    water = gui::waterQuad(shown->corners);
   }
 
   const auto app = guiApplication(GuiPlatform::DisplayWhenThere);
@@ -135,6 +174,7 @@ int run(const Args& args) {
   gui::HullScene scene;
   scene.setHull(*h);
   scene.setHeel(heel);
+  scene.setWater(water);
   gui::SceneCamera cam = gui::standardCamera(view);
   scene.fit(cam, double(w) / hgt);
   gui::SceneRenderer renderer;
@@ -170,10 +210,13 @@ Register reg({"draw3d", kUsage,
               "  there), then renders the hull as the 3-D view shows it, shaded plates and\n"
               "  lines, from iso (the default), front, side, top or bottom, heeled by --heel\n"
               "  degrees (positive with the starboard side down, as the stability window\n"
-              "  counts it), on W x H pixels (1600x1000 unless given), into a PNG.  Needs OpenGL:\n"
-              "  a display, or xvfb-run where there is none.  Status 1: a file cannot be read\n"
-              "  or written, or no OpenGL; 2: a wrong command line, a hull the screens refuse\n"
-              "  or a folded hull.",
+              "  counts it), on W x H pixels (1600x1000 unless given), into a PNG.  --zwl\n"
+              "  floats the hull at that waterline height in m (and --pitch in degrees, bow\n"
+              "  down positive) as hydro --zwl does and shows the water plane; heeled, at the\n"
+              "  level that keeps the volume under it.  Needs OpenGL: a display, or xvfb-run\n"
+              "  where there is none.  Status 1: a file cannot be read or written, or no\n"
+              "  OpenGL; 2: a wrong command line, a hull the screens refuse, a folded hull, or\n"
+              "  water that misses the hull or sinks it.",
               &run});
 
 }  // namespace

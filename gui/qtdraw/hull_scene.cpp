@@ -24,6 +24,13 @@ SceneVertex vertex(const QVector3D& p, const QVector3D& n, const QVector3D& c, f
 
 }  // namespace
 
+WaterQuad waterQuad(const std::array<Vec3, 4>& corners) {
+  WaterQuad q;
+  for (int k = 0; k < 4; ++k)
+    q[k] = QVector3D(float(corners[k].x), float(corners[k].y), float(corners[k].z));
+  return q;
+}
+
 void HullScene::setHull(const HullStore& h) {
   triangles_.clear();
   lines_.clear();

@@ -13,6 +13,7 @@
 
 #include "hull/hull_store.h"
 #include "qtdraw/scene_camera.h"
+#include "surface/hull_mesh.h"
 
 namespace tolmar::gui {
 
@@ -25,6 +26,7 @@ struct SceneVertex {
 
 // The water as a quadrilateral in the hull's axes.
 using WaterQuad = std::array<QVector3D, 4>;
+WaterQuad waterQuad(const std::array<Vec3, 4>& corners);
 
 class HullScene {
  public:

@@ -101,33 +101,35 @@ void frameCamera(SceneCamera& c, const std::vector<QVector3D>& points, double as
     seen.push_back({QVector3D::dotProduct(q, r), QVector3D::dotProduct(q, u),
                     std::max(1e-6, c.distance - QVector3D::dotProduct(q, b))});
   }
-  // A point at (x, y) across, `depth` ahead of the eye, shows when
-  // |x - a| <= tx depth (and so for y); for a slope t the shifts a that
-  // show every point form an interval, empty below the least t.
-  auto interval = [&](double t, bool across) {
-    double from = -1e30, to = 1e30;
-    for (const Seen& s : seen) {
-      const double v = across ? s.x : s.y;
-      from = std::max(from, v - t * s.depth);
-      to = std::min(to, v + t * s.depth);
+  // A point at (x, y) across, `depth` ahead of the eye, shows at
+  // (x - a) / depth of the half width's slope for a target shifted by a.
+  // The shift that centres the points makes the largest and the least of
+  // those equal and opposite (their sum falls as a grows); the slope that
+  // then holds them all is the field of view.
+  auto centre = [&](bool across, double& reach) {
+    auto spread = [&](double a, double& most, double& least) {
+      most = -1e30, least = 1e30;
+      for (const Seen& s : seen) {
+        const double v = ((across ? s.x : s.y) - a) / s.depth;
+        most = std::max(most, v), least = std::min(least, v);
+      }
+    };
+    double lo = -c.distance * 10, hi = c.distance * 10, most = 0, least = 0;
+    for (int i = 0; i < 100; ++i) {
+      const double mid = (lo + hi) / 2;
+      spread(mid, most, least);
+      (most + least > 0 ? lo : hi) = mid;
     }
-    return std::pair{from, to};
+    const double a = (lo + hi) / 2;
+    spread(a, most, least);
+    reach = std::max(most, -least);
+    return a;
   };
-  auto fits = [&](double t) {
-    const auto [ax, bx] = interval(t * aspect * fill, true);
-    const auto [ay, by] = interval(t * fill, false);
-    return ax <= bx && ay <= by;
-  };
-  double low = 0, high = std::tan(15 * kDeg);
-  while (!fits(high) && high < 1e3) high *= 2;
-  for (int i = 0; i < 50; ++i) {
-    const double mid = (low + high) / 2;
-    (fits(mid) ? high : low) = mid;
-  }
-  const auto [ax, bx] = interval(high * aspect * fill, true);
-  const auto [ay, by] = interval(high * fill, false);
-  c.fovY = 2 * std::atan(high) / kDeg;
-  c.target = c0 + float((ax + bx) / 2) * r + float((ay + by) / 2) * u;
+  double reachX = 0, reachY = 0;
+  const double a = centre(true, reachX), e = centre(false, reachY);
+  const double slope = std::max(reachX / aspect, reachY) / fill;
+  c.fovY = 2 * std::atan(std::max(slope, 1e-6)) / kDeg;
+  c.target = c0 + float(a) * r + float(e) * u;
 }
 
 }  // namespace tolmar::gui

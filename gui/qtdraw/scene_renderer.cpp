@@ -146,7 +146,8 @@ void SceneRenderer::paint(const HullScene& scene, const SceneCamera& c, int w, i
   // behind it.
   if (waterCount_ > 0) {
     glEnable(GL_BLEND);
-    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+    // The picture stays opaque: only the colour blends.
+    glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ZERO, GL_ONE);
     glDepthMask(GL_FALSE);
     draw(water_, 0, waterCount_, GL_TRIANGLES);
     glDepthMask(GL_TRUE);

@@ -24,14 +24,15 @@ struct ViewButton {
   const char* french;
   const char* english;
   StandardView v;
+  Qt::Key key;
 };
 
 constexpr ViewButton kViews[] = {
-    {"viewSide", "Côté", "Side", StandardView::side},
-    {"viewFace", "Face", "Face", StandardView::face},
-    {"viewTop", "Dessus", "Top", StandardView::top},
-    {"viewQuarter", "Trois-quarts", "Quarter", StandardView::quarter},
-    {"viewIsometric", "Isométrique", "Isometric", StandardView::isometric}};
+    {"viewSide", "Côté", "Side", StandardView::side, Qt::Key_1},
+    {"viewFace", "Face", "Face", StandardView::face, Qt::Key_2},
+    {"viewTop", "Dessus", "Top", StandardView::top, Qt::Key_3},
+    {"viewQuarter", "Trois-quarts", "Quarter", StandardView::quarter, Qt::Key_4},
+    {"viewIsometric", "Isométrique", "Isometric", StandardView::isometric, Qt::Key_5}};
 
 QString text(bool fr, const char* french, const char* english) {
   return QString::fromUtf8(fr ? french : english);
@@ -50,18 +51,15 @@ HullViewWindow::HullViewWindow(QWidget* parent, const HullStore& h)
   container_->setFocusPolicy(Qt::StrongFocus);
 
   auto* views = new QHBoxLayout;
-  int key = Qt::Key_1;
   for (const ViewButton& v : kViews) {
     auto* b = new QPushButton(this);
     b->setObjectName(v.name);
-    b->setShortcut(QKeySequence(key++));
     const StandardView sv = v.v;
     connect(b, &QPushButton::clicked, this, [this, sv] { showView(sv); });
     views->addWidget(b);
   }
   auto* fit = new QPushButton(this);
   fit->setObjectName("viewFit");
-  fit->setShortcut(QKeySequence(Qt::Key_F));
   connect(fit, &QPushButton::clicked, gl_, &HullGlView::fit);
   views->addWidget(fit);
   views->addStretch();
@@ -117,9 +115,15 @@ HullViewWindow::~HullViewWindow() = default;
 void HullViewWindow::setTexts() {
   const bool fr = h_.langue == 0;
   setWindowTitle(text(fr, "Vue 3D", "3-D view"));
-  for (const ViewButton& v : kViews)
-    findChild<QPushButton*>(v.name)->setText(text(fr, v.french, v.english));
-  findChild<QPushButton*>("viewFit")->setText(text(fr, "Cadrer", "Fit"));
+  // A button's text sets its shortcut to its mnemonic: the keys after it.
+  for (const ViewButton& v : kViews) {
+    auto* b = findChild<QPushButton*>(v.name);
+    b->setText(text(fr, v.french, v.english));
+    b->setShortcut(QKeySequence(v.key));
+  }
+  auto* fit = findChild<QPushButton*>("viewFit");
+  fit->setText(text(fr, "Cadrer", "Fit"));
+  fit->setShortcut(QKeySequence(Qt::Key_F));
   water_->setText(text(fr, "Plan d'eau", "Water plane"));
   water_->setToolTip(text(fr,
                           "Le plan d'eau du dernier calcul hydrostatique (affiché après un "
@@ -157,10 +161,7 @@ void HullViewWindow::showWater() {
                            "The hull does not float at this heel."));
     return;
   }
-  WaterQuad q;
-  for (int k = 0; k < 4; ++k)
-    q[k] = QVector3D(float(w->corners[k].x), float(w->corners[k].y), float(w->corners[k].z));
-  gl_->setWater(q);
+  gl_->setWater(waterQuad(w->corners));
 }
 
 void HullViewWindow::follow() {

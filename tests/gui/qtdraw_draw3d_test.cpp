@@ -49,6 +49,18 @@ double tilt(const QImage& img) {
   return 0.5 * std::atan2(2 * mu11, mu20 - mu02) * 180 / M_PI;
 }
 
+// Pixels of the background seen through the water: its light blue-grey
+// blended with the water's blue.
+int wateredBackground(const QImage& img) {
+  int n = 0;
+  for (int y = 0; y < img.height(); ++y)
+    for (int x = 0; x < img.width(); ++x) {
+      const QRgb p = img.pixel(x, y);
+      n += qAbs(qRed(p) - 172) < 20 && qAbs(qGreen(p) - 198) < 20 && qAbs(qBlue(p) - 230) < 20;
+    }
+  return n;
+}
+
 // draw3d into dir/name.png with the arguments given; empty when no OpenGL.
 QImage draw3d(const QTemporaryDir& dir, const QString& name, const QStringList& args, bool& noGl) {
   const QString out = dir.filePath(name + ".png");
@@ -127,6 +139,31 @@ class Draw3dTest : public QObject {
     // turn by a little.
     QVERIFY2(std::abs(tilts[20] + 20) < 3, qPrintable(QString::number(tilts[20])));
     QVERIFY2(std::abs(tilts[-20] - 20) < 3, qPrintable(QString::number(tilts[-20])));
+  }
+
+  // --zwl floats the hull at that height and shows the water around it;
+  // water below the keel, or a pitch without a waterline, is refused.
+  void waterlineShowsTheWater() {
+    if (QStandardPaths::findExecutable("xvfb-run").isEmpty()) QSKIP("xvfb-run is not installed");
+    QTemporaryDir dir;
+    bool noGl = false;
+    const QImage dry = draw3d(dir, "dry", {"--size", "800x500"}, noGl);
+    if (noGl) QSKIP("no OpenGL context under Xvfb");
+    QVERIFY(!dry.isNull());
+    // A few edge pixels between a blue plank and the background blend alike.
+    QVERIFY(wateredBackground(dry) < 800 * 500 / 100);
+    for (const QStringList& water : {QStringList{"--zwl", "0.3"},
+                                     QStringList{"--zwl", "0.3", "--pitch", "2", "--heel", "15"}}) {
+      const QImage wet = draw3d(dir, "wet", QStringList{"--size", "800x500"} + water, noGl);
+      QVERIFY(!wet.isNull());
+      QVERIFY2(wateredBackground(wet) > 800 * 500 / 10, qPrintable(water.join(' ')));
+      QCOMPARE(wet.pixelColor(400, 250).alpha(), 255);
+    }
+    QFile::remove(dir.filePath("wet.png"));
+    QCOMPARE(draw3d(dir, "wet", {"--zwl", "-5"}, noGl), QImage());
+    QVERIFY(!QFile::exists(dir.filePath("wet.png")));
+    QCOMPARE(draw3d(dir, "wet", {"--pitch", "2"}, noGl), QImage());
+    QVERIFY(!QFile::exists(dir.filePath("wet.png")));
   }
 };
 
