@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QPushButton>
@@ -22,6 +23,7 @@
 #include "windows/bouchain2_window.h"
 #include "windows/hull_gl_view.h"
 #include "windows/hull_view_window.h"
+#include "windows/stability_window.h"
 
 namespace tolmar {
 
@@ -243,6 +245,31 @@ class HullViewTest : public QObject {
     QCOMPARE(w->view().camera().yaw, 0.0);
     QCOMPARE(w->view().camera().pitch, 0.0);
     w->heelBox()->setValue(0);
+    w->close();
+  }
+
+  void takesTheStabilityWindowsCrewHeel() {
+    if (!canMakeGl()) QSKIP("no OpenGL context on this display");
+    Started p;
+    gui::HullViewWindow* w = openView(p);
+    QVERIFY(w);
+    QVERIFY(!w->stabilityHeelButton()->isEnabled());
+    gui::BuildMenu& build = p.board().constructionMenu();
+    build.action("fmenu_B_Stability")->trigger();
+    auto* stab = qobject_cast<gui::StabilityWindow*>(build.window("fmenu_B_Stability"));
+    QVERIFY(stab);
+    test::type(stab->field("kg"), "0.4");
+    test::type(stab->field("crewKg"), "90");
+    stab->findChild<QPushButton*>("compute")->click();
+    QVERIFY(stab->result().ok() && stab->result().crew.rests);
+    const double crew = stab->result().crew.heel;
+    QVERIFY(crew > 0.5);  // the crew on the starboard side heels it that way
+    w->follow();
+    QVERIFY(w->stabilityHeelButton()->isEnabled());
+    w->stabilityHeelButton()->click();
+    QVERIFY(qAbs(w->heelBox()->value() - crew) < 0.051);  // a tenth of a degree shown
+    w->heelBox()->setValue(0);
+    stab->close();
     w->close();
   }
 

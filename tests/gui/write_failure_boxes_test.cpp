@@ -1,7 +1,7 @@
 // A failed write as the user meets it in the program: the board's File
 // menu saves the hull, exports the lines and prints a page into a PDF
 // while one step of the writer fails (TOLMAR_WRITE_FAULT, as the command
-// line's tests use it), and the 3-D model while its file's sync fails.
+// line's tests use it), then the 3-D model and the plywood sheets' SVG.
 // The dialogs and the message boxes are the real ones, answered as a user
 // would: the message names the failure, the file that was there is byte
 // for byte as it was, no temporary is left, and the same command then
@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <memory>
@@ -26,6 +27,7 @@
 #include "windows/command_steps.h"
 #include "windows/model_export.h"
 #include "windows/printer_dialog.h"
+#include "windows/sheets_window.h"
 #include "windows_test_util.h"
 
 using namespace tolmar;
@@ -121,7 +123,11 @@ class WriteFailureBoxesTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { test::quietOffscreen(); }
+  void initTestCase() {
+    test::quietOffscreen();
+    QCoreApplication::setOrganizationName("tolmar-test-write-failures");
+    QSettings().clear();
+  }
   void init();
   void cleanup();
   void saveOfTheHullFile_data();
@@ -130,6 +136,7 @@ class WriteFailureBoxesTest : public QObject {
   void exportOfTheLines();
   void printIntoAPdf();
   void threeDModel();
+  void sheetsSvg();
 
  private:
   // The command run from the board's menu with the file dialog answered
@@ -308,6 +315,41 @@ void WriteFailureBoxesTest::threeDModel() {
   const QByteArray stl = test::readAll(file);
   QVERIFY(stl != former && stl.size() > 84);
   QCOMPARE(filesIn(dir_->path()), QStringList{"HULL.stl"});
+}
+
+// The SVG of the plywood sheets, from the window of the Build menu.
+void WriteFailureBoxesTest::sheetsSvg() {
+  gui::BuildMenu& build = p_->board().constructionMenu();
+  QAction* entry = build.action("fmenu_B_Sheets");
+  QVERIFY(entry && entry->isEnabled());
+  entry->trigger();
+  auto* w = qobject_cast<gui::SheetsWindow*>(build.window("fmenu_B_Sheets"));
+  QVERIFY(w);
+  // On 3050 x 1525 sheets, where the default hull's widest deck fits.
+  w->findChild<QComboBox*>("sheetSize")->setCurrentIndex(2);
+  w->compute();
+  QVERIFY2(!w->plan().sheets.empty(), qPrintable(w->message()->text()));
+  QPushButton* svg = w->findChild<QPushButton*>("saveSvg");
+  const QString file = dir_->filePath("SHEETS.svg");
+  const QByteArray former("<svg>former</svg>\n");
+  writeFile(file, former);
+  {
+    Fault fault("write");
+    User user(file, "sheets-failed");
+    svg->click();
+    QVERIFY(user.box.shown);
+    QVERIFY2(user.box.text.contains("No space left on device"), qPrintable(user.box.text));
+  }
+  QCOMPARE(test::readAll(file), former);
+  QCOMPARE(filesIn(dir_->path()), QStringList{"SHEETS.svg"});
+
+  User user(file);
+  svg->click();
+  QVERIFY2(!user.box.shown, qPrintable(user.box.text));
+  QVERIFY(test::readAll(file).contains("<svg"));
+  QVERIFY(test::readAll(file) != former);
+  QCOMPARE(filesIn(dir_->path()), QStringList{"SHEETS.svg"});
+  w->close();
 }
 
 QTEST_MAIN(WriteFailureBoxesTest)
