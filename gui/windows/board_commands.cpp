@@ -170,6 +170,7 @@ AnalysisWindows& BoardWindows::analysis() {
 }
 
 void BoardWindows::setUnattended(bool on) {
+  unattended_ = on;
   files_->setUnattended(on);
   printers_->setUnattended(on);
 }

@@ -82,6 +82,9 @@ class BoardWindows : public QObject {
 
   // Unattended: no dialog or message box shows (tests).
   void setUnattended(bool on);
+  bool unattended() const { return unattended_; }
+
+  QWidget* board() const { return board_; }
 
  private:
   QWidget* board_;
@@ -90,6 +93,7 @@ class BoardWindows : public QObject {
   std::unique_ptr<CmDialog2> printers_;
   Overlap1Window* overlap_ = nullptr;
   AnalysisWindows* analysis_ = nullptr;
+  bool unattended_ = false;
 };
 
 }  // namespace tolmar::gui

@@ -9,8 +9,10 @@
 #include "printing/print_job.h"
 #include "printing/print_menu.h"
 #include "printing/stability_page.h"
+#include "windows/board_commands.h"
 #include "windows/command_steps.h"
 #include "windows/file_dialog.h"
+#include "windows/plate_choice_dialog.h"
 #include "windows/printer_dialog.h"
 
 namespace tolmar::gui {
@@ -55,19 +57,27 @@ bool printEntry(BoardWindows& w, HullStore& h, board::BoardState& b, board::Boar
       pages = [step](PrintJob& job) { fmenu_P_Tout(job, step); };
       break;
     case C::fmenu_P_Patterns: {
+      const std::vector<DevelopedPlate> plates = developAll(h);
+      const auto choice =
+          askPlateChoice(w.board(), w.unattended(), PlateDocument::patterns, plates, h.langue);
+      if (!choice) return true;
       const std::string paper = w.printers().printer().pageLayout().pageSize().name().toStdString();
-      pages = [paper, &host](PrintJob& job) {
+      pages = [paper, &host, choice](PrintJob& job) {
         const std::vector<DevelopedPlate> plates = developAll(job.h);
         std::vector<std::string> unknown;
         const PatternPlan plan =
-            planPatterns(job.s, choosePlates(plates, {}, unknown), kPatternOverlapMm);
+            planPatterns(job.s, choosePlates(plates, choice->plates, unknown), choice->valueMm);
         printPatterns(job.s, job.h, host, plan, paper);
       };
       break;
     }
-    case C::fmenu_P_Panels:
-      pages = [](PrintJob& job) { fmenu_P_Panels(job); };
+    case C::fmenu_P_Panels: {
+      const auto choice = askPlateChoice(w.board(), w.unattended(), PlateDocument::panelOffsets,
+                                         developAll(h), h.langue);
+      if (!choice) return true;
+      pages = [choice](PrintJob& job) { fmenu_P_Panels(job, choice->valueMm, choice->plates); };
       break;
+    }
     case C::fmenu_P_Check:
       pages = [](PrintJob& job) { fmenu_P_Check(job); };
       break;

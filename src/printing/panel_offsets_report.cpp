@@ -103,11 +103,11 @@ void printPanelOffsets(PrintJob& job, const std::vector<PanelOffsets>& offsets) 
   job.s.EndDoc();
 }
 
-void fmenu_P_Panels(PrintJob& job, double stepMm) {
-  const std::vector<DevelopedPlate> plates = developAll(job.h);
+void fmenu_P_Panels(PrintJob& job, double stepMm, const std::vector<std::string>& plates) {
+  const std::vector<DevelopedPlate> all = developAll(job.h);
   std::vector<std::string> unknown;
   std::vector<PanelOffsets> offsets;
-  for (const DevelopedPlate* p : choosePlates(plates, {}, unknown))
+  for (const DevelopedPlate* p : choosePlates(all, plates, unknown))
     offsets.push_back(panelOffsets(*p, stepMm));
   printPanelOffsets(job, offsets);
 }

@@ -13,6 +13,8 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <csignal>
@@ -126,6 +128,9 @@ class BoardCommandsTest : public QObject {
 };
 
 void BoardCommandsTest::init() {
+  // The print entries' remembered choices are the defaults.
+  QStandardPaths::setTestModeEnabled(true);
+  QSettings(QStringLiteral("Tolmar"), QStringLiteral("tolmar")).clear();
   h_ = fixture::defaultHull();
   h_->langue = 1;
   h_->hullName = "TOLMAR2005";
