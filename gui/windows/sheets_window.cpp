@@ -291,9 +291,13 @@ std::string SheetsWindow::stem() const {
   return s.empty() ? "HULL" : s;
 }
 
+std::string SheetsWindow::errorTitle() const {
+  return langue_ == 0 ? "Tolmar - Panneaux de contreplaqué" : "Tolmar - Plywood sheets";
+}
+
 bool SheetsWindow::write(const std::string& path, const std::string& bytes) {
   if (const io::WriteResult w = io::writeFileSafely(path, bytes); !w.ok()) {
-    dialog_->showError("Tolmar - Plywood sheets", w.message);
+    dialog_->showError(errorTitle(), w.message);
     return false;
   }
   return true;
@@ -302,7 +306,8 @@ bool SheetsWindow::write(const std::string& path, const std::string& bytes) {
 bool SheetsWindow::saveDxf() {
   if (!plan_.error.empty() || plan_.sheets.empty()) return false;
   SaveRequest r;
-  r.title = "Tolmar - Save the sheets as DXF files";
+  r.title = langue_ == 0 ? "Tolmar - Enregistrer les panneaux en fichiers DXF"
+                         : "Tolmar - Save the sheets as DXF files";
   r.filter = "Sheet (*_SHEET01.DXF)|*.DXF";
   r.defaultName = sheetDxfName(stem(), 0);
   const auto choice = dialog_->askSaveFile(r);
@@ -327,7 +332,8 @@ bool SheetsWindow::saveDxf() {
 bool SheetsWindow::saveSvg() {
   if (!plan_.error.empty() || plan_.sheets.empty()) return false;
   SaveRequest r;
-  r.title = "Tolmar - Save the sheets as SVG";
+  r.title =
+      langue_ == 0 ? "Tolmar - Enregistrer les panneaux en SVG" : "Tolmar - Save the sheets as SVG";
   r.filter = "SVG (*.svg)|*.svg";
   r.defaultName = stem() + "_SHEETS.svg";
   const auto choice = dialog_->askSaveFile(r);
@@ -339,7 +345,8 @@ bool SheetsWindow::saveSvg() {
 bool SheetsWindow::savePdf() {
   if (!plan_.error.empty() || plan_.sheets.empty()) return false;
   SaveRequest r;
-  r.title = "Tolmar - Save the sheets as PDF";
+  r.title =
+      langue_ == 0 ? "Tolmar - Enregistrer les panneaux en PDF" : "Tolmar - Save the sheets as PDF";
   r.filter = "PDF (*.pdf)|*.pdf";
   r.defaultName = stem() + "_SHEETS.pdf";
   const auto choice = dialog_->askSaveFile(r);
@@ -347,7 +354,8 @@ bool SheetsWindow::savePdf() {
   BusyCursor busy;
   const QByteArray pdf = qtdraw::sheetsPdf(plan_, h_->hullName, langue_);
   if (pdf.isEmpty()) {
-    dialog_->showError("Tolmar - Plywood sheets", "The PDF document could not be started.");
+    dialog_->showError(errorTitle(), langue_ == 0 ? "Le document PDF n'a pas pu être commencé."
+                                                  : "The PDF document could not be started.");
     return false;
   }
   return write(choice->path, std::string(pdf.constData(), static_cast<std::size_t>(pdf.size())));

@@ -50,6 +50,8 @@ class SheetsWindow : public QWidget {
   void showPlan();
   std::string stem() const;
   bool write(const std::string& path, const std::string& bytes);
+  // The title of its error boxes, in langue.
+  std::string errorTitle() const;
 
   std::unique_ptr<HullStore> h_;  // a copy: the window computes on the hull as it was opened
   int langue_ = 1;

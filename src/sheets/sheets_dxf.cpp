@@ -5,6 +5,7 @@
 #include "export/dxf_records.h"
 #include "export/stroke_font.h"
 #include "sheets/bill_of_materials.h"
+#include "text/plain_letters.h"
 #include "text/utf8.h"
 
 namespace tolmar::sheets {
@@ -40,7 +41,8 @@ void writeSheetDxf(TextSink& out, const SheetPlan& plan, int s, const std::strin
   for (const PlacedPiece& pp : sh.pieces) polyline(out, "CUT", 1, pp.outline, true);
   for (const PlacedPiece& pp : sh.pieces) {
     for (const MmPolyline& m : pp.marks) polyline(out, "MARK", 5, m, false);
-    const std::string label = pieceLabel(plan, pp.piece, langue);
+    // The stroke font draws plain letters: "babord", not a missing glyph.
+    const std::string label = plainLetters(pieceLabel(plan, pp.piece, langue));
     const LabelPlace l = labelPlace(pp, utf8Length(label));
     dxfText(out, label, static_cast<float>(l.size), l.x, l.y, 0, std::string_view("MARK"), 5);
   }
