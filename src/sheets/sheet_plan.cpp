@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <functional>
 #include <map>
 #include <thread>
 
@@ -96,10 +97,47 @@ void addSheets(SheetPlan& plan, double thickness, const std::vector<int>& ids,
   }
 }
 
-// The tries at other ways of placing one part's joints: about this over
-// the number of pieces of the thickness (a quick nesting costs about the
-// square of that number).
+// The tries at other ways of placing one part's joints, each part once:
+// at most about this over the number of pieces of the thickness (a quick
+// nesting costs about the square of that number).
 constexpr std::size_t kJointWork = 600;
+
+// A part (both its sides) at a time, another way for its joints is kept
+// where a quick nesting of the parts of `thickness` needs fewer sheets or
+// leaves more of the last free than `nest` (the quick nesting of the cut
+// by `perPart`): a part's end pieces change shape with its joints, and
+// may then fit where the others leave room.
+void chooseWaysPerPart(const std::vector<SheetPart>& parts, const SheetOptions& o, double usable,
+                       const std::vector<JointStrategy>& ways,
+                       const std::function<SheetPlan(const std::vector<JointStrategy>&)>& cutWith,
+                       double thickness, int threads, std::vector<JointStrategy>& perPart,
+                       NestResult& nest) {
+  std::vector<std::string> names;
+  for (const SheetPart& p : parts)
+    if (p.thicknessMm == thickness && boundingBox(p.outline).width() > usable - 0.1 &&
+        std::find(names.begin(), names.end(), p.name) == names.end() &&
+        std::none_of(o.jointsAt.begin(), o.jointsAt.end(),
+                     [&](const JointAt& j) { return j.part == p.name; }))
+      names.push_back(p.name);
+  const std::size_t n = std::max<std::size_t>(nest.places.size(), 1);
+  std::size_t tries = std::clamp<std::size_t>(kJointWork / n, 4, 60);
+  for (const std::string& name : names)
+    for (JointStrategy st : ways) {
+      if (!tries) return;
+      std::vector<JointStrategy> trial = perPart;
+      bool other = false;
+      for (std::size_t i = 0; i < parts.size(); ++i)
+        if (parts[i].name == name && parts[i].thicknessMm == thickness)
+          other |= trial[i] != st, trial[i] = st;
+      if (!other) continue;
+      --tries;
+      const SheetPlan plan = cutWith(trial);
+      NestResult r = nestBest(request(plan, byThickness(plan).at(thickness)), threads, true);
+      if (!r.betterThan(nest)) continue;
+      perPart = std::move(trial);
+      nest = std::move(r);
+    }
+}
 
 int threadCount() {
   const unsigned n = std::thread::hardware_concurrency();
@@ -163,7 +201,9 @@ SheetPlan planParts(std::vector<SheetPart> parts, const SheetOptions& o, int lan
   };
   // Each way of placing the joints cuts the parts; the parts of one
   // thickness share their sheets with no other, so each thickness keeps
-  // the way that needs the fewest sheets for it.
+  // the way that needs the fewest sheets for it in a quick nesting, then
+  // each part its own way (chooseWaysPerPart), and the pieces are nested
+  // in full at last.
   std::vector<JointStrategy> ways = {JointStrategy::even};
   if (needsJoint) ways = {JointStrategy::even, JointStrategy::fromAft, JointStrategy::fromForward};
   std::vector<JointStrategy> cutWays;
@@ -182,57 +222,19 @@ SheetPlan planParts(std::vector<SheetPart> parts, const SheetOptions& o, int lan
   std::map<double, std::pair<std::size_t, NestResult>> best;  // by thickness: the cut, its nest
   for (std::size_t c = 0; c < cuts.size(); ++c)
     for (const auto& [thickness, ids] : byThickness(cuts[c])) {
-      NestResult r = nestBest(request(cuts[c], ids), threads);
+      NestResult r = nestBest(request(cuts[c], ids), threads, true);
       auto it = best.find(thickness);
       if (it == best.end() || r.betterThan(it->second.second)) best[thickness] = {c, std::move(r)};
     }
   std::vector<JointStrategy> perPart(parts.size());
   for (std::size_t i = 0; i < parts.size(); ++i)
     perPart[i] = cutWays[best.at(parts[i].thicknessMm).first];
-  // Then, a part (both its sides) at a time, another way for its joints is
-  // kept where a quick nesting of its thickness needs fewer sheets or
-  // leaves more of the last free: a part's end pieces change shape with
-  // its joints, and may then fit where the others leave room.
   if (cutWays.size() > 1)
-    for (auto& [thickness, nest] : best) {
-      std::vector<std::string> names;
-      for (const SheetPart& p : parts)
-        if (p.thicknessMm == thickness && boundingBox(p.outline).width() > U - 0.1 &&
-            std::find(names.begin(), names.end(), p.name) == names.end() &&
-            std::none_of(o.jointsAt.begin(), o.jointsAt.end(),
-                         [&](const JointAt& j) { return j.part == p.name; }))
-          names.push_back(p.name);
-      const std::size_t n = nest.second.places.size();
-      std::size_t tries = std::clamp<std::size_t>(kJointWork / std::max<std::size_t>(n, 1), 4, 60);
-      bool changed = false;
-      for (int round = 0; round < 2 && tries; ++round)
-        for (const std::string& name : names)
-          for (JointStrategy st : cutWays) {
-            if (!tries) break;
-            std::vector<JointStrategy> trial = perPart;
-            bool other = false;
-            for (std::size_t i = 0; i < parts.size(); ++i)
-              if (parts[i].name == name && parts[i].thicknessMm == thickness)
-                other |= trial[i] != st, trial[i] = st;
-            if (!other) continue;
-            --tries;
-            const SheetPlan plan = cutWith(trial);
-            NestResult r = nestBest(request(plan, byThickness(plan).at(thickness)), threads, true);
-            if (!r.betterThan(nest.second)) continue;
-            perPart = std::move(trial);
-            nest.second = std::move(r);
-            changed = true;
-          }
-      if (changed) {
-        const SheetPlan plan = cutWith(perPart);
-        nest.second = nestBest(request(plan, byThickness(plan).at(thickness)), threads);
-      }
-    }
+    for (auto& [thickness, nest] : best)
+      chooseWaysPerPart(parts, o, U, cutWays, cutWith, thickness, threads, perPart, nest.second);
   SheetPlan plan = cutWith(perPart);
-  // A thickness's pieces come in the same order as in the cut it was
-  // nested from: the parts' order, then their straps'.
   for (const auto& [thickness, ids] : byThickness(plan))
-    addSheets(plan, thickness, ids, best.at(thickness).second.places);
+    addSheets(plan, thickness, ids, nestBest(request(plan, ids), threads).places);
   const auto bad = checkLayout(plan);
   if (!bad.empty()) plan.error = "The layout failed its check: " + bad.front();
   return plan;
