@@ -48,6 +48,8 @@ constexpr int kPictureWidth = 760;  // dots
 
 SheetsWindow::SheetsWindow(QWidget* board, const HullStore& h)
     : QWidget(board, Qt::Window),
+      board_(h),
+      watch_(h),
       h_(std::make_unique<HullStore>(h)),
       langue_(h.langue),
       dialog_(std::make_unique<CmDialog1>(this)) {
@@ -234,6 +236,12 @@ void SheetsWindow::compute() {
   saveSettings();
   plan_ = planSheets(*h_, options());
   showPlan();
+}
+
+void SheetsWindow::follow() {
+  if (!watch_.changed()) return;
+  *h_ = board_;
+  compute();
 }
 
 void SheetsWindow::showPlan() {

@@ -11,6 +11,7 @@
 #include "hull/hull_store.h"
 #include "sheets/sheet_layout.h"
 #include "windows/file_dialog.h"
+#include "windows/hull_watch.h"
 
 class QCheckBox;
 class QComboBox;
@@ -36,6 +37,10 @@ class SheetsWindow : public QWidget {
   sheets::SheetOptions options() const;
   void compute();
 
+  // Plans again on the board's hull if it changed since the last plan
+  // (after a redraw on the board; a zoom or a station changes nothing).
+  Q_INVOKABLE void follow();
+
   // The buttons: the files of the plan, through the dialog.  False when
   // nothing was written (cancelled, no plan, or a failed write).
   bool saveDxf();
@@ -53,7 +58,9 @@ class SheetsWindow : public QWidget {
   // The title of its error boxes, in langue.
   std::string errorTitle() const;
 
-  std::unique_ptr<HullStore> h_;  // a copy: the window computes on the hull as it was opened
+  const HullStore& board_;
+  HullWatch watch_;
+  std::unique_ptr<HullStore> h_;  // a copy of the board's hull as it was last planned
   int langue_ = 1;
   sheets::SheetPlan plan_;
   std::unique_ptr<CmDialog1> dialog_;

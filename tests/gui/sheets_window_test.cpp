@@ -18,7 +18,9 @@
 #include <QTemporaryDir>
 
 #include "board_session_util.h"
+#include "development/hull_fixture.h"
 #include "windows/bouchain2_window.h"
+#include "windows/dessin_window.h"
 
 using namespace tolmar;
 using C = board::BoardControl;
@@ -114,6 +116,46 @@ class SheetsWindowTest : public QObject {
     QCOMPARE(again.findChild<QDoubleSpinBox*>("sheetLength")->value(), 3050.0);
     QCOMPARE(again.findChild<QDoubleSpinBox*>("kerf")->value(), 4.0);
     QCOMPARE(again.options().widthMm, 1525.0);
+  }
+
+  // Open, then the board redraws the same hull (a zoom): the plan stays;
+  // it redraws another hull: the plan is made again on it.
+  void followsTheHullRedrawn() {
+    test::Started p;
+    p.createAndValidate();
+    gui::DessinWindow& board = p.board();
+    p.h() = *fixture::defaultHull();
+    p.h().langue = 1;
+    board.state().stepIndex = 1;
+    board.dessineAction();
+    board.constructionMenu().action("fmenu_B_Sheets")->trigger();
+    auto* w = qobject_cast<gui::SheetsWindow*>(board.constructionMenu().window("fmenu_B_Sheets"));
+    QVERIFY(w);
+    w->findChild<QComboBox*>("sheetSize")->setCurrentIndex(2);
+    w->compute();
+    QVERIFY2(w->plan().error.empty(), w->plan().error.c_str());
+    const auto partsOf = [](const gui::SheetsWindow& sw) {
+      QStringList names;
+      for (const sheets::SheetPart& part : sw.plan().parts)
+        names << QString::fromStdString(part.name);
+      return names;
+    };
+    const QStringList before = partsOf(*w);
+    QVERIFY(before.contains("p04"));
+
+    board.dessineAction();
+    QCOMPARE(partsOf(*w), before);
+
+    // Two lines: the bottom and one plank.
+    p.h() = *fixture::twoLineHull();
+    p.h().langue = 1;
+    board.dessineAction();
+    QCOMPARE(qobject_cast<gui::SheetsWindow*>(board.constructionMenu().window("fmenu_B_Sheets")),
+             w);
+    QVERIFY2(w->plan().error.empty(), w->plan().error.c_str());
+    QVERIFY(partsOf(*w).contains("p01"));
+    QVERIFY(!partsOf(*w).contains("p02"));
+    w->close();
   }
 };
 
