@@ -19,6 +19,7 @@
 
 #include "analysis/hydro_solver.h"
 #include "board_session_util.h"
+#include "gui/picture_measures.h"
 #include "stability/hydro_mesh.h"
 #include "windows/bouchain2_window.h"
 #include "windows/hull_gl_view.h"
@@ -31,6 +32,9 @@ using C = board::BoardControl;
 using test::Started;
 
 namespace {
+
+using tolmar::test::tilt;
+using tolmar::test::wateredBackground;
 
 bool canMakeGl() {
   QOpenGLContext c;
@@ -51,35 +55,6 @@ int unlike(const QImage& img, QRgb background) {
     for (int x = 0; x < img.width(); ++x)
       n += qAbs(qRed(img.pixel(x, y)) - qRed(background)) > 24 ||
            qAbs(qBlue(img.pixel(x, y)) - qBlue(background)) > 24;
-  return n;
-}
-
-// The angle of the silhouette's long axis to the picture's rows, degrees,
-// from its second moments: positive when its right end lies lower.
-double tilt(const QImage& img) {
-  const QRgb bg = img.pixel(2, 2);
-  double n = 0, sx = 0, sy = 0, sxx = 0, syy = 0, sxy = 0;
-  for (int y = 0; y < img.height(); ++y)
-    for (int x = 0; x < img.width(); ++x) {
-      const QRgb p = img.pixel(x, y);
-      if (qAbs(qRed(p) - qRed(bg)) + qAbs(qGreen(p) - qGreen(bg)) + qAbs(qBlue(p) - qBlue(bg)) < 30)
-        continue;
-      n += 1, sx += x, sy += y, sxx += double(x) * x, syy += double(y) * y, sxy += double(x) * y;
-    }
-  const double mx = sx / n, my = sy / n;
-  const double mu20 = sxx / n - mx * mx, mu02 = syy / n - my * my, mu11 = sxy / n - mx * my;
-  return 0.5 * std::atan2(2 * mu11, mu20 - mu02) * 180 / M_PI;
-}
-
-// Pixels of the background seen through the water: its light blue-grey
-// blended with the water's blue.
-int wateredBackground(const QImage& img) {
-  int n = 0;
-  for (int y = 0; y < img.height(); ++y)
-    for (int x = 0; x < img.width(); ++x) {
-      const QRgb p = img.pixel(x, y);
-      n += qAbs(qRed(p) - 172) < 20 && qAbs(qGreen(p) - 198) < 20 && qAbs(qBlue(p) - 230) < 20;
-    }
   return n;
 }
 
@@ -211,14 +186,14 @@ class HullViewTest : public QObject {
     w->findChild<QPushButton*>("viewFace")->click();
     QDoubleSpinBox* heel = w->heelBox();
     heel->setValue(0);
-    const double upright = tilt(w->view().picture());
+    const double upright = tilt(w->view().picture(), QPoint(2, 2));
     QVERIFY2(std::abs(upright) < 1, qPrintable(QString::number(upright)));
     // From ahead starboard is on the left: it goes down, the hull tilts by
     // the heel, the fit following it.
     heel->setValue(20);
     QCOMPARE(w->view().scene().heel(), 20.0);
     const QImage heeled = w->view().picture();
-    const double turned = tilt(heeled);
+    const double turned = tilt(heeled, QPoint(2, 2));
     QVERIFY2(std::abs(turned + 20) < 3, qPrintable(QString::number(turned)));
     int left = heeled.width(), right = -1;
     for (int y = 0; y < heeled.height(); ++y)
