@@ -5,11 +5,14 @@
 // measured without the parts wider than that sheet.  Counters: sheets, the
 // area lower bound (the sum over the thicknesses, one thickness a sheet,
 // and over all the pieces as if of one thickness) and the utilisation
-// (pieces' area / sheets' area).
+// (pieces' area / sheets' area); then per thickness t, "st" the sheets
+// and "bt" their area bound.
 // Targets: the default hull under 1 s, the 20-plank hull under 10 s.
 #include <benchmark/benchmark.h>
 
 #include <cmath>
+#include <map>
+#include <string>
 
 #include "../tests/development/hull_fixture.h"
 #include "sheets/bill_of_materials.h"
@@ -58,6 +61,14 @@ void BM_Sheets(benchmark::State& state) {
       plan.sheets.empty() ? 1 : plan.sheets[0].lengthMm * plan.sheets[0].widthMm / 1e6;
   state.counters["bound_whole"] = std::ceil(bom.usedAreaM2 / sheetM2 - 1e-9);
   state.counters["utilisation"] = bom.utilisation();
+  // Per thickness: "s6" sheets of 6 mm, "b6" their area bound.
+  std::map<int, double> area;
+  for (const BomPiece& p : bom.pieces)
+    area[static_cast<int>(std::lround(p.thicknessMm))] += p.areaM2;
+  for (const BomSheets& g : bom.sheets)
+    state.counters["s" + std::to_string(std::lround(g.thicknessMm))] += g.count;
+  for (const auto& [mm, m2] : area)
+    state.counters["b" + std::to_string(mm)] = std::ceil(m2 / sheetM2 - 1e-9);
 }
 // Arguments: hull (0 default, 1 pram bow, 2 20 planks), sheet (0 3050 x 1525, 1 2440 x 1220).
 BENCHMARK(BM_Sheets)

@@ -17,13 +17,22 @@ using namespace ClipperLib;
 namespace {
 
 // The width of a column: 5 mm.  Finer costs time for little: a plank's
-// edge sloping at 1 in 10 loses half a millimetre a column.
+// edge sloping at 1 in 10 loses half a millimetre a column.  Sheets longer
+// than kMaxColumns of them get wider columns.
 constexpr cInt kStep = 500;
-// Where a piece starts in a column is rounded to 1 mm, its columns made
-// that much wider.
-constexpr cInt kPhase = 100;
+constexpr cInt kMaxColumns = 20000;
+// Where a piece starts in a column is rounded to a fifth of a column (1
+// mm), its columns made that much wider.
+constexpr cInt kPhases = 5;
 
 cInt floorDiv(cInt a, cInt b) { return a >= 0 ? a / b : -((-a + b - 1) / b); }
+
+// The width of the columns of the sheets of `r`, a whole number of phases.
+cInt stepOf(const NestRequest& r) {
+  const cInt wide = floorDiv(r.x1 - r.x0 + kMaxColumns - 1, kMaxColumns);
+  const cInt step = std::max(kStep, wide);
+  return floorDiv(step + kPhases - 1, kPhases) * kPhases;
+}
 
 // `p` grown by `grow`, mitred corners (never inside the rounded growth).
 Path grownBy(const Path& p, cInt grow) {
@@ -100,8 +109,9 @@ struct Turn {
   Box box{};
   Path grown;
   // Its columns for each way it may lie across the sheet's columns: from
-  // its left end on, and for its left end at kPhase q .. q + 1 into a
-  // column, columns from q + 1 before its left end on, kPhase wider.
+  // its left end on, and for its left end q .. q + 1 phases into a
+  // column, columns from q + 1 phases before its left end on, a phase
+  // wider.
   std::vector<ColumnSpan> exact;
   std::vector<std::vector<ColumnSpan>> phased;
 };
@@ -132,12 +142,12 @@ struct Spot {
 // (as lowestAt takes them) moved up by dy and the highest of the sheet's
 // edge and what the columns hold below it.
 double roomUnder(const Sheet& s, const std::vector<ColumnSpan>& cols, std::size_t c0, std::size_t m,
-                 cInt x0, cInt x1, cInt sheetX0, cInt sheetY0, cInt dy) {
+                 cInt x0, cInt x1, cInt sheetX0, cInt step, cInt sheetY0, cInt dy) {
   double room = 0;
   for (std::size_t j = 0; j < m; ++j) {
     const ColumnSpan& c = cols[j];
-    const cInt cx0 = sheetX0 + cInt(c0 + j) * kStep;
-    const cInt px0 = std::max(x0, cx0), px1 = std::min(x1, cx0 + kStep);
+    const cInt cx0 = sheetX0 + cInt(c0 + j) * step;
+    const cInt px0 = std::max(x0, cx0), px1 = std::min(x1, cx0 + step);
     if (c.lo > c.hi || px0 >= px1) continue;
     cInt below = sheetY0;
     for (const Held& o : s.columns[c0 + j]) {
@@ -154,14 +164,14 @@ double roomUnder(const Sheet& s, const std::vector<ColumnSpan>& cols, std::size_
 // nothing held in the sheet's columns; false when there is none.  Only
 // the m first of `cols` count.
 bool lowestAt(const Sheet& s, const std::vector<ColumnSpan>& cols, std::size_t c0, std::size_t m,
-              cInt x0, cInt x1, cInt sheetX0, cInt fy0, cInt fy1, cInt& dy) {
+              cInt x0, cInt x1, cInt sheetX0, cInt step, cInt fy0, cInt fy1, cInt& dy) {
   dy = fy0;
   // Round the columns until a whole round moves nothing.
   std::size_t clean = 0;
   for (std::size_t j = 0; clean < m; j = (j + 1) % m) {
     const ColumnSpan& c = cols[j];
-    const cInt cx0 = sheetX0 + cInt(c0 + j) * kStep;
-    const cInt px0 = std::max(x0, cx0), px1 = std::min(x1, cx0 + kStep);
+    const cInt cx0 = sheetX0 + cInt(c0 + j) * step;
+    const cInt px0 = std::max(x0, cx0), px1 = std::min(x1, cx0 + step);
     if (c.lo > c.hi || px0 >= px1) {
       ++clean;
       continue;
@@ -183,9 +193,9 @@ bool lowestAt(const Sheet& s, const std::vector<ColumnSpan>& cols, std::size_t c
 class Pass {
  public:
   Pass(const NestRequest& r, const std::vector<Shape>& shapes, NestRule rule)
-      : r_(r), shapes_(shapes), rule_(rule) {
+      : r_(r), shapes_(shapes), rule_(rule), step_(stepOf(r)) {
     columns_ =
-        static_cast<std::size_t>(std::max<cInt>(1, floorDiv(r.x1 - r.x0 + kStep - 1, kStep)));
+        static_cast<std::size_t>(std::max<cInt>(1, floorDiv(r.x1 - r.x0 + step_ - 1, step_)));
   }
 
   NestResult run(const std::vector<std::size_t>& order) {
@@ -263,17 +273,18 @@ class Pass {
       if (dx < dxMin || dx > dxMax) continue;
       // The piece's columns on the sheet's grid; those past the sheet's
       // last column (of a wider column) hold nothing of it.
-      const cInt c0 = floorDiv(dx + t.box.x0 - r_.x0, kStep),
-                 phase = dx + t.box.x0 - r_.x0 - c0 * kStep;
-      const std::vector<ColumnSpan>& cols = phase == 0 ? t.exact : t.phased[phase / kPhase];
+      const cInt c0 = floorDiv(dx + t.box.x0 - r_.x0, step_),
+                 phase = dx + t.box.x0 - r_.x0 - c0 * step_;
+      const std::vector<ColumnSpan>& cols =
+          phase == 0 ? t.exact : t.phased[phase / (step_ / kPhases)];
       if (c0 < 0 || static_cast<std::size_t>(c0) >= columns_) continue;
       const std::size_t m = std::min(cols.size(), columns_ - static_cast<std::size_t>(c0));
       Spot at{dx, 0};
       if (!lowestAt(sheet, cols, static_cast<std::size_t>(c0), m, dx + t.box.x0, dx + t.box.x1,
-                    r_.x0, fy0, fy1, at.dy))
+                    r_.x0, step_, fy0, fy1, at.dy))
         continue;
       at.under = roomUnder(sheet, cols, static_cast<std::size_t>(c0), m, dx + t.box.x0,
-                           dx + t.box.x1, r_.x0, r_.y0, at.dy);
+                           dx + t.box.x1, r_.x0, step_, r_.y0, at.dy);
       if (!found || better(t, at, t, best)) best = at, found = true;
     }
     return found;
@@ -282,12 +293,12 @@ class Pass {
   void place(Sheet& sheet, const Turn& t, const Spot& at, double area) {
     Path g = t.grown;
     for (IntPoint& q : g) q.X += at.dx, q.Y += at.dy;
-    const std::vector<ColumnSpan> cols = columnProfile(g, r_.x0, kStep);
+    const std::vector<ColumnSpan> cols = columnProfile(g, r_.x0, step_);
     const Box gb = boxOf(g);
     for (std::size_t j = 0; j < cols.size() && j < columns_; ++j) {
       if (cols[j].lo > cols[j].hi) continue;
-      const cInt cx0 = r_.x0 + cInt(j) * kStep;
-      const Held h{cols[j].lo, cols[j].hi, std::max(gb.x0, cx0), std::min(gb.x1, cx0 + kStep)};
+      const cInt cx0 = r_.x0 + cInt(j) * step_;
+      const Held h{cols[j].lo, cols[j].hi, std::max(gb.x0, cx0), std::min(gb.x1, cx0 + step_)};
       auto& c = sheet.columns[j];
       c.insert(std::upper_bound(c.begin(), c.end(), h,
                                 [](const Held& a, const Held& b) { return a.lo < b.lo; }),
@@ -301,11 +312,13 @@ class Pass {
   const NestRequest& r_;
   const std::vector<Shape>& shapes_;
   NestRule rule_;
+  cInt step_;
   std::size_t columns_ = 1;
   std::vector<Sheet> sheets_;
 };
 
 std::vector<Shape> prepare(const NestRequest& r) {
+  const cInt step = stepOf(r), phase = step / kPhases;
   const std::vector<int> quarters =
       r.rotate90 ? std::vector<int>{0, 2, 1, 3} : std::vector<int>{0, 2};
   std::vector<Shape> out(r.shapes.size());
@@ -318,9 +331,9 @@ std::vector<Shape> prepare(const NestRequest& r) {
       t.quarter = q;
       const Path p = turned(r.shapes[i], q);
       t.box = boxOf(p);
-      t.exact = columnProfile(p, t.box.x0, kStep);
-      for (cInt at = 0; at < kStep; at += kPhase)
-        t.phased.push_back(columnProfile(p, t.box.x0 - at - kPhase, kStep, kPhase));
+      t.exact = columnProfile(p, t.box.x0, step);
+      for (cInt at = 0; at < step; at += phase)
+        t.phased.push_back(columnProfile(p, t.box.x0 - at - phase, step, phase));
       t.grown = turned(grown, q);
       out[i].turns.push_back(std::move(t));
     }

@@ -149,6 +149,18 @@ TEST(Nesting, AStripAndItsMirroredCopyDoNotCross) {
   EXPECT_EQ(plan.sheets.size(), 4u);
 }
 
+TEST(Nesting, ASheetAThousandKilometresLongTakesWiderColumns) {
+  // At 5 mm a column it would need 200 million columns a sheet.
+  SheetOptions o;
+  o.lengthMm = 1e9;
+  std::vector<SheetPart> parts;
+  for (int i = 0; i < 6; ++i) parts.push_back(wedge(named("w", i)));
+  const SheetPlan plan = planParts(parts, o, 1);
+  ASSERT_EQ(plan.error, "");
+  EXPECT_TRUE(checkLayout(plan).empty());
+  EXPECT_EQ(plan.sheets.size(), 1u);
+}
+
 TEST(Nesting, SameRequestSameResultWhateverTheThreads) {
   NestRequest r;
   for (int i = 0; i < 10; ++i)
