@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QOffscreenSurface>
@@ -49,6 +50,7 @@ HullViewWindow::HullViewWindow(QWidget* parent, const HullStore& h)
   container_->setObjectName("hullPicture");
   container_->setMinimumSize(320, 200);
   container_->setFocusPolicy(Qt::StrongFocus);
+  gl_->installEventFilter(this);
 
   auto* views = new QHBoxLayout;
   for (const ViewButton& v : kViews) {
@@ -111,6 +113,32 @@ HullViewWindow::HullViewWindow(QWidget* parent, const HullStore& h)
 }
 
 HullViewWindow::~HullViewWindow() = default;
+
+bool HullViewWindow::takeKey(int key) {
+  if (key == Qt::Key_F) {
+    gl_->fit();
+    return true;
+  }
+  for (const ViewButton& v : kViews)
+    if (v.key == key) {
+      showView(v.v);
+      return true;
+    }
+  return false;
+}
+
+void HullViewWindow::keyPressEvent(QKeyEvent* e) {
+  if (e->modifiers() == Qt::NoModifier && takeKey(e->key())) return;
+  QWidget::keyPressEvent(e);
+}
+
+bool HullViewWindow::eventFilter(QObject* watched, QEvent* e) {
+  if (watched == gl_ && e->type() == QEvent::KeyPress) {
+    const auto* k = static_cast<QKeyEvent*>(e);
+    if (k->modifiers() == Qt::NoModifier && takeKey(k->key())) return true;
+  }
+  return QWidget::eventFilter(watched, e);
+}
 
 void HullViewWindow::setTexts() {
   const bool fr = h_.langue == 0;

@@ -43,7 +43,15 @@ class HullViewWindow : public QWidget {
   // starboard down positive); the button takes it.
   void setStabilityHeel(std::function<std::optional<double>()> heel);
 
+ protected:
+  // The keys 1 to 5 and F also when no shortcut takes them: the window not
+  // the active one for the shortcuts, or the picture holding the focus.
+  void keyPressEvent(QKeyEvent* e) override;
+  bool eventFilter(QObject* watched, QEvent* e) override;
+
  private:
+  // The view of a key, or the fit; false for another key.
+  bool takeKey(int key);
   void setTexts();
   void showView(StandardView v);
   void showWater();
