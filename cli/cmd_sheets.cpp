@@ -208,6 +208,17 @@ int run(const Args& args) {
       return 1;
     }
   }
+  // The sheets of an earlier, longer plan would be cut with this one's.
+  const int count = static_cast<int>(plan.sheets.size());
+  for (const std::filesystem::path& f : staleSheetFiles(p.outDir, stem, count)) {
+    std::filesystem::remove(f, ec);
+    if (ec)
+      std::fprintf(stderr, "tolmar-cli sheets: warning: %s of an earlier plan stays: %s\n",
+                   f.string().c_str(), ec.message().c_str());
+    else
+      std::fprintf(stderr, "tolmar-cli sheets: removed %s of an earlier plan of more sheets\n",
+                   f.string().c_str());
+  }
   return 0;
 }
 

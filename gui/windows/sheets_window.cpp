@@ -334,6 +334,13 @@ bool SheetsWindow::saveDxf() {
             .toStdString();
     if (!write(path, dxf.text())) return false;
   }
+  // The sheets of an earlier, longer plan under the same name would be cut
+  // with this one's.
+  std::error_code ec;
+  for (const std::filesystem::path& f :
+       staleSheetFiles(first.dir().path().toStdString(), base.toStdString(),
+                       static_cast<int>(plan_.sheets.size())))
+    std::filesystem::remove(f, ec);
   return true;
 }
 

@@ -28,6 +28,18 @@ std::string sheetDxfName(const std::string& stem, int sheet) {
   return stem + "_SHEET" + b + ".DXF";
 }
 
+std::vector<std::filesystem::path> staleSheetFiles(const std::filesystem::path& dir,
+                                                   const std::string& stem, int count) {
+  std::vector<std::filesystem::path> stale;
+  std::error_code ec;
+  for (int s = count; s < count + 1000; ++s) {
+    std::filesystem::path f = dir / sheetDxfName(stem, s);
+    if (!std::filesystem::is_regular_file(f, ec)) break;
+    stale.push_back(std::move(f));
+  }
+  return stale;
+}
+
 void writeSheetDxf(TextSink& out, const SheetPlan& plan, int s, const std::string& hullName,
                    int langue) {
   const Sheet& sh = plan.sheets[s];

@@ -5,7 +5,9 @@
 // each piece's name and side.
 #pragma once
 
+#include <filesystem>
 #include <string>
+#include <vector>
 
 #include "export/text_sink.h"
 #include "sheets/sheet_layout.h"
@@ -17,5 +19,11 @@ void writeSheetDxf(TextSink& out, const SheetPlan& plan, int sheet, const std::s
 
 // The file name of sheet `sheet` (0-based): NAME_SHEET01.DXF.
 std::string sheetDxfName(const std::string& stem, int sheet);
+
+// The sheet files an earlier, longer plan left in `dir` after the `count`
+// sheets of this one: NAME_SHEETnn.DXF from nn = count + 1 on, as long as
+// they follow each other.  Left there, they would be cut as part of this plan.
+std::vector<std::filesystem::path> staleSheetFiles(const std::filesystem::path& dir,
+                                                   const std::string& stem, int count);
 
 }  // namespace tolmar::sheets

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <set>
@@ -139,6 +140,37 @@ TEST_F(CliSheets, SameInputSameBytes) {
     if (name.find(".json") != std::string::npos)
       strap = bytes.find("couvre-joint") != std::string::npos;
   EXPECT_TRUE(strap);
+}
+
+// A folder that holds the files of an earlier plan of more sheets: this
+// plan's sheets replace theirs, the sheets beyond go (they would be cut
+// too), and files of another name or after a gap stay.
+TEST_F(CliSheets, SheetsOfALongerEarlierPlanGo) {
+  ASSERT_EQ(sheets(kHull, dir, "--sheet 3050x1525").status, 0);
+  const int n = static_cast<int>(
+      nlohmann::json::parse(files(dir).at("default_hull_SHEETS.json"))["bom"]["sheet_count"]);
+  const auto touch = [&](const std::string& name) { std::ofstream(dir / name) << "old\r\n"; };
+  char name[64];
+  for (int s = n + 1; s <= n + 3; ++s) {
+    std::snprintf(name, sizeof name, "default_hull_SHEET%02d.DXF", s);
+    touch(name);
+  }
+  std::snprintf(name, sizeof name, "default_hull_SHEET%02d.DXF", n + 5);
+  const std::string afterGap = name;
+  touch(afterGap);
+  touch("other_SHEET40.DXF");
+
+  const auto r = sheets(kHull, dir, "--sheet 3050x1525");
+  ASSERT_EQ(r.status, 0) << r.err;
+  const auto f = files(dir);
+  EXPECT_EQ(f.size(), static_cast<std::size_t>(n) + 3 + 2);
+  for (int s = n + 1; s <= n + 3; ++s) {
+    std::snprintf(name, sizeof name, "default_hull_SHEET%02d.DXF", s);
+    EXPECT_FALSE(f.count(name)) << name;
+    EXPECT_NE(r.err.find(std::string(name) + " of an earlier plan"), std::string::npos) << r.err;
+  }
+  EXPECT_TRUE(f.count(afterGap));
+  EXPECT_TRUE(f.count("other_SHEET40.DXF"));
 }
 
 TEST_F(CliSheets, BadInputIsRefusedAndNothingIsWritten) {

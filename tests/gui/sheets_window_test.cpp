@@ -87,11 +87,21 @@ class SheetsWindowTest : public QObject {
       QVERIFY(!w.findChild<QLabel*>("sheetsPicture")->pixmap().isNull());
 
       QTemporaryDir dir;
+      const auto sheetFile = [&dir](std::size_t s) {
+        return dir.filePath(QString("boat_SHEET%1.DXF").arg(s, 2, 10, QChar('0')));
+      };
+      // Two sheets of an earlier, longer plan: they go with this one's save.
+      const std::size_t n = w.plan().sheets.size();
+      for (std::size_t s : {n + 1, n + 2}) {
+        QFile old(sheetFile(s));
+        QVERIFY(old.open(QIODevice::WriteOnly));
+      }
       w.dialog().setUnattended(true);
       w.dialog().answerWith(dir.filePath("boat_SHEET01.DXF").toStdString());
       QVERIFY(w.saveDxf());
-      for (std::size_t s = 1; s <= w.plan().sheets.size(); ++s)
-        QVERIFY(QFile::exists(dir.filePath(QString("boat_SHEET%1.DXF").arg(s, 2, 10, QChar('0')))));
+      for (std::size_t s = 1; s <= n; ++s) QVERIFY(QFile::exists(sheetFile(s)));
+      QVERIFY(!QFile::exists(sheetFile(n + 1)));
+      QVERIFY(!QFile::exists(sheetFile(n + 2)));
       w.dialog().answerWith(dir.filePath("boat.svg").toStdString());
       QVERIFY(w.saveSvg());
       w.dialog().answerWith(dir.filePath("boat.pdf").toStdString());
