@@ -227,8 +227,9 @@ Register reg({"sheets", kUsage,
               "  the mass budget counts on plywood sheets (joints where a panel is longer than\n"
               "  a sheet), and writes into OUTDIR: NAME_SHEET01.DXF ... (one per sheet),\n"
               "  NAME_SHEETS.svg, NAME_SHEETS.pdf (bill of materials, a page per sheet) and\n"
-              "  NAME_SHEETS.json.  Sizes in millimetres; --joint-at in metres from the part's\n"
-              "  aft end.  Status 1: a file cannot be read or written; 2: a wrong command\n"
+              "  NAME_SHEETS.json; the sheet files of an earlier plan of more sheets go.\n"
+              "  Sizes in millimetres; --joint-at in metres from the part's aft end.\n"
+              "  Status 1: a file cannot be read or written; 2: a wrong command\n"
               "  line, a hull the screens refuse, or panels that cannot be laid out.",
               &run});
 
