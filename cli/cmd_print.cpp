@@ -24,6 +24,7 @@
 #include "cli_session_args.h"
 #include "command.h"
 #include "development/developed_plate.h"
+#include "development/panel_offsets.h"
 #include "gui_application.h"
 #include "hull/fold_check.h"
 #include "io/safe_write.h"
@@ -44,7 +45,8 @@ using board::BoardControl;
 constexpr const char* kUsage =
     "HULL.D50 data|drawing|develop|station|all|patterns|panels|check|stability OUT.pdf\n"
     "      [--paper A4|A3|Letter] [--landscape] [--margin-mm 5] [--calibrate X,Y]\n"
-    "      [--station X] [--lang fr|en] [--overlap-mm 10] [--plates p01,p02,...] [--auto]\n"
+    "      [--station X] [--lang fr|en] [--overlap-mm 10] [--plates p01,p02,...]\n"
+    "      [--step-mm 100] [--auto]\n"
     "      [--set SCREEN.CONTROL=VALUE]...";
 
 struct PrintArgs {
@@ -52,6 +54,7 @@ struct PrintArgs {
   bool patterns = false;   // the full-size patterns, behind the same gate as the plates
   bool stability = false;  // the stability pages, behind the gate of all offsets
   double overlapMm = 10;
+  double stepMm = 100;  // the panel offsets' stations
   std::vector<std::string> plates;
   std::string paperName = "A4";
   std::string out;
@@ -118,6 +121,10 @@ int parseArgs(const Args& args, PrintArgs& p, SessionArgs& session) {
       const std::string* v = value();
       if (!v || !parsePaperNumber(*v, p.overlapMm))
         return usage("--overlap-mm needs a number of millimetres");
+    } else if (a == "--step-mm") {
+      const std::string* v = value();
+      if (!v || !parsePaperNumber(*v, p.stepMm))
+        return usage("--step-mm needs a number of millimetres");
     } else if (a == "--plates") {
       const std::string* v = value();
       if (!v || v->empty()) return usage("--plates needs names, as p01,p02,transom");
@@ -168,7 +175,8 @@ std::string paperError(const PrintArgs& p, int langue) {
 // part on the board first for the station sheet, then the document.
 class PrintSteps : public board::StepHost {
  public:
-  PrintSteps(PrintJob& job, board::BoardState& b) : job_(job), b_(b) {}
+  PrintSteps(PrintJob& job, board::BoardState& b, const PrintArgs& args)
+      : job_(job), b_(b), args_(args) {}
 
   board::BoardState& board() override { return b_; }
   DrawingSurface& picture() override { return picture_; }
@@ -193,7 +201,7 @@ class PrintSteps : public board::StepHost {
         fmenu_P_Tout(job_, b_.stepIndex);
         break;
       case BoardControl::fmenu_P_Panels:
-        fmenu_P_Panels(job_);
+        fmenu_P_Panels(job_, args_.stepMm, args_.plates);
         break;
       case BoardControl::fmenu_P_Check:
         fmenu_P_Check(job_);
@@ -206,6 +214,7 @@ class PrintSteps : public board::StepHost {
  private:
   PrintJob& job_;
   board::BoardState& b_;
+  const PrintArgs& args_;
   UnseenPicture picture_;
 };
 
@@ -242,9 +251,16 @@ int run(const Args& args) {
     return 2;
   }
 
+  const bool panels = p.entry == BoardControl::fmenu_P_Panels;
+  if (panels) {
+    if (const std::string why = stepError(p.stepMm, h->langue); !why.empty()) {
+      std::fprintf(stderr, "tolmar-cli print: %s\n", why.c_str());
+      return 2;
+    }
+  }
   std::vector<DevelopedPlate> plates;
   std::vector<const DevelopedPlate*> chosen;
-  if (p.patterns) {
+  if (p.patterns || (panels && !p.plates.empty())) {
     plates = developAll(*h);
     std::vector<std::string> unknown;
     chosen = choosePlates(plates, p.plates, unknown);
@@ -301,7 +317,7 @@ int run(const Args& args) {
       fmenu_P_Stability(job);
     } else {
       PrintJob job{surface, *h, host};
-      PrintSteps entry(job, r.board);
+      PrintSteps entry(job, r.board, p);
       board::StepRunner(entry, *h).perform(steps);
     }
   }
@@ -322,7 +338,8 @@ Register reg({"print", kUsage,
               "  patterns (every plate and end plate at 1:1 on tiles of the paper that\n"
               "  overlap by --overlap-mm, 5 to 50, after a map of the tiles; --plates\n"
               "  names the plates, as tolmar-cli dump lists them), panels (the panel\n"
-              "  offsets of every plate, as tolmar-cli offsets gives them), stability (GZ\n"
+              "  offsets of every plate, or of --plates, at stations --step-mm apart, as\n"
+              "  tolmar-cli offsets gives them), stability (GZ\n"
               "  and hydrostatic curves with their tables, from the mass budget).\n"
               "  A4 portrait unless told; texts in English unless --lang fr.  The page\n"
               "  lies inside a margin of --margin-mm (5 mm) at 568 twips to the centimetre;\n"

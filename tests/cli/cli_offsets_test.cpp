@@ -108,4 +108,27 @@ TEST_F(CliOffsets, PrintedInBothLanguages) {
   EXPECT_TRUE(std::regex_search(tous, std::regex("Cotes des panneaux : p01 +bordé 1")));
 }
 
+// The printed offsets of the plates named, at the step asked: p01 alone,
+// a station every 50 mm; a bad step or an unknown plate prints nothing.
+TEST_F(CliOffsets, PrintedForChosenPlatesAndStep) {
+  if (runCli("print --help").status != 0) GTEST_SKIP() << "built without the Qt drawing library";
+  if (!popplerReady()) GTEST_SKIP() << "poppler missing";
+  const fs::path one = dir_ / "one.pdf";
+  const CliRun r =
+      runCli("print " + quoted(hull_) + " panels " + quoted(one) + " --plates p01 --step-mm 50");
+  ASSERT_EQ(r.status, 0) << r.err;
+  const std::string text = shell("pdftotext " + quoted(one) + " -").out;
+  EXPECT_TRUE(std::regex_search(text, std::regex("Panel offsets: p01 +plank 1")));
+  EXPECT_EQ(text.find("p02"), std::string::npos);
+  EXPECT_EQ(text.find("p00"), std::string::npos);
+  EXPECT_TRUE(std::regex_search(text, std::regex("\\n50\\.0\\n100\\.0\\n150\\.0\\n"))) << text;
+
+  for (const char* bad : {"--step-mm 0", "--step-mm abc", "--plates p09", "--plates ,"}) {
+    const fs::path none = dir_ / "none.pdf";
+    const CliRun b = runCli("print " + quoted(hull_) + " panels " + quoted(none) + " " + bad);
+    EXPECT_EQ(b.status, 2) << bad;
+    EXPECT_FALSE(fs::exists(none)) << bad;
+  }
+}
+
 }  // namespace
