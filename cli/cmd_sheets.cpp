@@ -200,13 +200,14 @@ int run(const Args& args) {
                  ec.message().c_str());
     return 1;
   }
-  for (const auto& [name, bytes] : files) {
-    const std::string path = (std::filesystem::path(p.outDir) / name).string();
-    if (const io::WriteResult w = io::writeFileSafely(path, bytes); !w.ok()) {
-      std::fprintf(stderr, "tolmar-cli sheets: cannot write %s: %s\n", path.c_str(),
-                   w.message.c_str());
-      return 1;
-    }
+  // All the files or none: each is written and synced before any replaces
+  // its former self.
+  for (auto& file : files) file.first = (std::filesystem::path(p.outDir) / file.first).string();
+  std::size_t failed = 0;
+  if (const io::WriteResult w = io::writeFilesSafely(files, &failed); !w.ok()) {
+    std::fprintf(stderr, "tolmar-cli sheets: cannot write %s: %s\n", files[failed].first.c_str(),
+                 w.message.c_str());
+    return 1;
   }
   // The sheets of an earlier, longer plan would be cut with this one's.
   const int count = static_cast<int>(plan.sheets.size());

@@ -325,14 +325,20 @@ bool SheetsWindow::saveDxf() {
   QString base = first.completeBaseName();
   if (base.endsWith("_SHEET01", Qt::CaseInsensitive)) base.chop(8);
   BusyCursor busy;
+  // All the sheets or none: each file is written and synced before any
+  // replaces its former self.
+  std::vector<std::pair<std::string, std::string>> files;
   for (int s = 0; s < static_cast<int>(plan_.sheets.size()); ++s) {
     StringSink dxf;
     writeSheetDxf(dxf, plan_, s, h_->hullName, langue_);
-    const std::string path =
-        first.dir()
-            .filePath(QString::fromStdString(sheetDxfName(base.toStdString(), s)))
-            .toStdString();
-    if (!write(path, dxf.text())) return false;
+    files.emplace_back(first.dir()
+                           .filePath(QString::fromStdString(sheetDxfName(base.toStdString(), s)))
+                           .toStdString(),
+                       dxf.text());
+  }
+  if (const io::WriteResult w = io::writeFilesSafely(files); !w.ok()) {
+    dialog_->showError(errorTitle(), w.message);
+    return false;
   }
   // The sheets of an earlier, longer plan under the same name would be cut
   // with this one's.

@@ -224,8 +224,8 @@ void SafeFile::discard() {
   }
 }
 
-WriteResult SafeFile::commit() {
-  if (committed_) return {};
+WriteResult SafeFile::prepare() {
+  if (prepared_ || committed_) return {error_, errorText()};
   if (stream_ && error_ == 0) stream_->pubsync();
   if (error_ == 0) flushBuffer(true);
   if (error_ == 0) {
@@ -240,6 +240,17 @@ WriteResult SafeFile::commit() {
     if (faultAt(WriteStep::close)) fail(EIO);
     fd_ = -1;
   }
+  if (error_ != 0) {
+    discard();
+    return {error_, errorText()};
+  }
+  prepared_ = true;
+  return {};
+}
+
+WriteResult SafeFile::commit() {
+  if (committed_) return {};
+  if (const WriteResult r = prepare(); !r.ok()) return r;
   if (error_ == 0) {
     if (faultAt(WriteStep::rename))
       fail(EXDEV);
@@ -279,6 +290,26 @@ WriteResult writeFileSafely(const std::string& path, std::string_view bytes) {
   SafeFile f(path);
   f.write(bytes);
   return f.commit();
+}
+
+WriteResult writeFilesSafely(const std::vector<std::pair<std::string, std::string>>& files,
+                             std::size_t* failed) {
+  std::vector<std::unique_ptr<SafeFile>> open;
+  open.reserve(files.size());
+  const auto failure = [failed](std::size_t k, WriteResult r) {
+    if (failed) *failed = k;
+    return r;
+  };
+  for (std::size_t k = 0; k < files.size(); ++k) {
+    open.push_back(std::make_unique<SafeFile>(files[k].first));
+    if (open[k]->error() != 0) return failure(k, {open[k]->error(), open[k]->errorText()});
+    open[k]->write(files[k].second);
+  }
+  for (std::size_t k = 0; k < files.size(); ++k)
+    if (const WriteResult r = open[k]->prepare(); !r.ok()) return failure(k, r);
+  for (std::size_t k = 0; k < files.size(); ++k)
+    if (const WriteResult r = open[k]->commit(); !r.ok()) return failure(k, r);
+  return {};
 }
 
 WriteResult writeFileSafely(const std::string& path,

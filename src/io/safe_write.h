@@ -19,6 +19,8 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace tolmar::io {
 
@@ -41,6 +43,11 @@ class SafeFile {
 
   void write(std::string_view bytes);
   std::ostream& stream();  // the same file as a stream; its errors count as write errors
+
+  // Flush, fsync and close: every byte is on the disk under the temporary
+  // name, the target not yet replaced.  Any failure so far or now comes
+  // back, with the temporary removed.  commit() does it first if need be.
+  WriteResult prepare();
 
   // Flush, fsync, close, rename, fsync of the folder.  Any failure so far or
   // now comes back, with the temporary removed and the target untouched
@@ -66,6 +73,7 @@ class SafeFile {
   int error_ = 0;
   std::string text_;  // the failure's own text, if it has one
   int mode_ = -1;     // permission bits to keep, -1 for a new file
+  bool prepared_ = false;
   bool committed_ = false;
   std::string buf_;
   std::unique_ptr<StreamParts> stream_;
@@ -73,6 +81,13 @@ class SafeFile {
 
 // The whole file at once.
 WriteResult writeFileSafely(const std::string& path, std::string_view bytes);
+
+// Several files that belong together (name, bytes): every one is written
+// and synced under its temporary name before any target is replaced, so a
+// refused target, a full disk or a failed sync leaves all of them as they
+// were.  On a failure, `failed` (if given) is the index of the file.
+WriteResult writeFilesSafely(const std::vector<std::pair<std::string, std::string>>& files,
+                             std::size_t* failed = nullptr);
 
 // The file filled by `fill` through a stream.  An exception thrown by fill
 // counts as a failure (its text becomes the message) and writes nothing.

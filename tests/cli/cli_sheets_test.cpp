@@ -173,6 +173,23 @@ TEST_F(CliSheets, SheetsOfALongerEarlierPlanGo) {
   EXPECT_TRUE(f.count("other_SHEET40.DXF"));
 }
 
+// One sheet's file cannot be written (a folder holds its name): no file
+// of the plan is replaced, those of the plan before stay as they were.
+TEST_F(CliSheets, AllFilesOrNone) {
+  ASSERT_EQ(sheets(kHull, dir, "--sheet 3050x1525").status, 0);
+  const auto before = files(dir);
+  fs::remove(dir / "default_hull_SHEET03.DXF");
+  fs::create_directory(dir / "default_hull_SHEET03.DXF");
+  const auto r = sheets(kHull, dir, "--sheet 3050x1525 --kerf 5");
+  EXPECT_EQ(r.status, 1);
+  EXPECT_NE(r.err.find("default_hull_SHEET03.DXF: Is a directory"), std::string::npos) << r.err;
+  fs::remove(dir / "default_hull_SHEET03.DXF");
+  auto after = files(dir);
+  auto expected = before;
+  expected.erase("default_hull_SHEET03.DXF");
+  EXPECT_TRUE(after == expected) << "a file of the failed plan replaced one of the plan before";
+}
+
 TEST_F(CliSheets, BadInputIsRefusedAndNothingIsWritten) {
   struct Case {
     std::string opts, says;

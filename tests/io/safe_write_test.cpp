@@ -16,6 +16,8 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "io/write_faults.h"
 
@@ -191,6 +193,38 @@ TEST_F(SafeWrite, AFailedSyncOfTheFolderIsReported) {
   EXPECT_EQ(r.error, EIO);
   EXPECT_EQ(slurp(f), "new");
   EXPECT_EQ(names(dir_), std::set<std::string>{"a.txt"});
+}
+
+// Files that belong together: all replaced, or none when one of them is
+// refused (a folder in its place) or its sync fails; no temporary left.
+TEST_F(SafeWrite, FilesThatBelongTogetherAllOrNone) {
+  const std::vector<std::string> names3 = {"s1.DXF", "s2.DXF", "s3.DXF"};
+  for (const std::string& n : names3) std::ofstream(dir_ / n) << "old " << n;
+  std::vector<std::pair<std::string, std::string>> files;
+  for (const std::string& n : names3) files.emplace_back((dir_ / n).string(), "new " + n);
+
+  fs::remove(dir_ / "s3.DXF");
+  fs::create_directory(dir_ / "s3.DXF");
+  std::size_t failed = 99;
+  WriteResult r = writeFilesSafely(files, &failed);
+  EXPECT_EQ(r.message, errorText(EISDIR));
+  EXPECT_EQ(failed, 2u);
+  EXPECT_EQ(slurp(dir_ / "s1.DXF"), "old s1.DXF");
+  EXPECT_EQ(slurp(dir_ / "s2.DXF"), "old s2.DXF");
+  fs::remove(dir_ / "s3.DXF");
+  EXPECT_EQ(names(dir_), (std::set<std::string>{"s1.DXF", "s2.DXF"}));
+
+  ::setenv("TOLMAR_WRITE_FAULT", "fsync", 1);
+  r = writeFilesSafely(files, &failed);
+  EXPECT_EQ(r.error, EIO);
+  EXPECT_EQ(failed, 0u);
+  EXPECT_EQ(slurp(dir_ / "s1.DXF"), "old s1.DXF");
+  EXPECT_EQ(names(dir_), (std::set<std::string>{"s1.DXF", "s2.DXF"}));
+
+  ::unsetenv("TOLMAR_WRITE_FAULT");
+  ASSERT_TRUE(writeFilesSafely(files).ok());
+  for (const std::string& n : names3) EXPECT_EQ(slurp(dir_ / n), "new " + n);
+  EXPECT_EQ(names(dir_), (std::set<std::string>{"s1.DXF", "s2.DXF", "s3.DXF"}));
 }
 
 TEST(WriteFaults, StepNames) {
