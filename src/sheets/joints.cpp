@@ -6,23 +6,9 @@
 #include <limits>
 
 #include "sheets/clipper_geometry.h"
+#include "sheets/size_text.h"
 
 namespace tolmar::sheets {
-
-namespace {
-
-std::string mm(double v) {
-  char b[32];
-  std::snprintf(b, sizeof b, "%.0f mm", v);
-  return b;
-}
-std::string metres(double v) {
-  char b[32];
-  std::snprintf(b, sizeof b, "%.2f m", v / 1000);
-  return b;
-}
-
-}  // namespace
 
 std::vector<double> autoJoints(double L, double U, double s, JointStrategy st) {
   if (!(L > U) || !(U > s)) return {};
@@ -87,13 +73,14 @@ CutResult cutParts(const std::vector<SheetPart>& parts, const SheetOptions& o, d
       for (double x : at) {
         if (!(x > 0 && x < L)) {
           r.error = (fr ? "Le joint de " : "The joint of ") + part.name + (fr ? " à " : " at ") +
-                    metres(x) + (fr ? " est hors du panneau, long de " : " is outside the part, ") +
-                    metres(L) + (fr ? "." : " long.");
+                    metresText(x) +
+                    (fr ? " est hors du panneau, long de " : " is outside the part, ") +
+                    metresText(L) + (fr ? "." : " long.");
           return r;
         }
         if (x < kJointEndClearanceMm || x > L - kJointEndClearanceMm) {
           r.error = (fr ? "Le joint de " : "The joint of ") + part.name + (fr ? " à " : " at ") +
-                    metres(x) +
+                    metresText(x) +
                     (fr ? " est à moins de 300 mm d'une extrémité."
                         : " is within 300 mm of an end of the part.");
           return r;
@@ -106,14 +93,14 @@ CutResult cutParts(const std::vector<SheetPart>& parts, const SheetOptions& o, d
       }
     } else if (L > U) {
       if (o.joint == JointKind::none) {
-        r.error = part.name + (fr ? " est long de " : " is ") + mm(L) +
-                  (fr ? " ; la feuille permet " : " long; the sheet takes ") + mm(U) +
+        r.error = part.name + (fr ? " est long de " : " is ") + mmText(L) +
+                  (fr ? " ; la feuille permet " : " long; the sheet takes ") + mmText(U) +
                   (fr ? ". Choisissez un joint." : ". Pick a joint.");
         return r;
       }
       at = autoJoints(L, U, s, perPart[pi]);
       if (at.empty()) {
-        r.error = (fr ? "Le joint en biseau de " : "The scarf of ") + part.name + " (" + mm(s) +
+        r.error = (fr ? "Le joint en biseau de " : "The scarf of ") + part.name + " (" + mmText(s) +
                   (fr ? ") est plus long que la feuille." : ") is longer than the sheet.");
         return r;
       }
@@ -133,8 +120,8 @@ CutResult cutParts(const std::vector<SheetPart>& parts, const SheetOptions& o, d
       const double pieceLength = std::min(b, box.x1) - std::max(a, box.x0);
       if (pieceLength > U + 1e-6 && k > 1) {
         r.error = (fr ? "La pièce " : "Piece ") + std::to_string(i + 1) + (fr ? " de " : " of ") +
-                  part.name + (fr ? " est longue de " : " is ") + mm(pieceLength) +
-                  (fr ? " ; la feuille permet " : " long; the sheet takes ") + mm(U) + ".";
+                  part.name + (fr ? " est longue de " : " is ") + mmText(pieceLength) +
+                  (fr ? " ; la feuille permet " : " long; the sheet takes ") + mmText(U) + ".";
         return r;
       }
       const auto cut = clipBand(part.outline, a, b);

@@ -12,16 +12,11 @@
 #include "sheets/joints.h"
 #include "sheets/layout_check.h"
 #include "sheets/nesting.h"
+#include "sheets/size_text.h"
 
 namespace tolmar::sheets {
 
 namespace {
-
-std::string mm(double v) {
-  char b[32];
-  std::snprintf(b, sizeof b, "%.0f mm", v);
-  return b;
-}
 
 bool positive(double v) { return std::isfinite(v) && v > 0; }
 
@@ -36,11 +31,11 @@ std::string tooWide(const SheetPlan& plan, double U, double W, int langue) {
     if (along || across) continue;
     const std::string& name = plan.parts[p.part].name;
     if (b.height() > W && !(plan.options.rotate90 && b.height() <= U))
-      return name + (fr ? " demande une largeur de " : " needs a width of ") + mm(b.height()) +
-             (fr ? " ; la feuille donne " : "; the sheet gives ") + mm(W) +
+      return name + (fr ? " demande une largeur de " : " needs a width of ") + mmText(b.height()) +
+             (fr ? " ; la feuille donne " : "; the sheet gives ") + mmText(W) +
              (fr ? " entre ses marges." : " inside its margins.");
-    return name + (fr ? " demande une longueur de " : " needs a length of ") + mm(b.width()) +
-           (fr ? " ; la feuille donne " : "; the sheet gives ") + mm(U) +
+    return name + (fr ? " demande une longueur de " : " needs a length of ") + mmText(b.width()) +
+           (fr ? " ; la feuille donne " : "; the sheet gives ") + mmText(U) +
            (fr ? " entre ses marges." : " inside its margins.");
   }
   return {};
